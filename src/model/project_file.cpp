@@ -1,0 +1,164 @@
+#include "model/project_file.h"
+
+#include <charconv>
+#include <cmath>
+#include <memory>
+#include <system_error>
+
+#include "model/encoding.h"
+#include "model/line_writer.h"
+#include "model/project_layout.h"
+#include "model/text_forms.h"
+
+namespace tidemark {
+
+namespace {
+
+// Takes the lines of a file one by one. The state has the names of the reading procedure.
+class LineReader {
+  public:
+    explicit LineReader(std::string_view bytes) : FileBuffer(bytes) {}
+
+    // The next line: up to an LF or the end, every CR dropped; empty text once all is read. The
+    // result is good until the next call.
+    std::string_view Read_line() {
+        if (BufferPos >= FileBuffer.size() && ended_at_ == 0) ended_at_ = line_ + 1;
+        ++line_;
+        const std::string_view rest = FileBuffer.substr(BufferPos);
+        const std::size_t length = std::min(rest.find('\n'), rest.size());
+        BufferPos += std::min(length + 1, rest.size());
+        return Without_CR(rest.substr(0, length));
+    }
+
+    int Line() const { return line_; }          // the line read last, from 1
+    int Ended_at() const { return ended_at_; }  // the first line asked for that was not there, or 0
+
+  private:
+    std::string_view Without_CR(std::string_view line) {
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        if (line.find('\r') == line.npos) return line;
+        kept_ = line;
+        std::erase(kept_, '\r');
+        return kept_;
+    }
+
+    std::string_view FileBuffer;
+    std::size_t BufferPos = 0;
+    std::string kept_;
+    int line_ = 0;
+    int ended_at_ = 0;
+};
+
+std::string Excerpt(std::string_view line) {
+    constexpr std::size_t longest = 40;
+    if (line.size() <= longest) return std::string(line);
+    return std::string(line.substr(0, longest)) + "...";
+}
+
+// Sets each value that it visits to that of the next line.
+class Reader {
+  public:
+    explicit Reader(LineReader& lines) : lines_(lines) {}
+
+    void operator()(const char* name, Int16& value) {
+        const std::string_view line = lines_.Read_line();
+        try {
+            value = Int_value(line);
+        } catch (const Overflow&) {
+            Refuse(std::string(name) + " does not fit -32768..32767: " + Excerpt(line));
+        }
+    }
+
+    void operator()(const char* name, float& value) {
+        const std::string_view line = lines_.Read_line();
+        value = static_cast<float>(Numeric_value(line));
+        if (!std::isfinite(value))
+            Refuse(std::string(name) + " is not a 32-bit number: " + Excerpt(line));
+    }
+
+    void operator()(const char*, bool& value) { value = Flag_value(lines_.Read_line()); }
+
+    void operator()(const char* name, std::string& value) {
+        const std::string_view line = lines_.Read_line();
+        if (line.size() > MaxTextLength)
+            Refuse(std::string(name) + " is longer than " + std::to_string(MaxTextLength) +
+                   " bytes");
+        if (line.find('\0') != line.npos) Refuse(std::string(name) + " holds a NUL");
+        value = Text_from_bytes(line);
+    }
+
+    void Count(const char* name, Int16& value, int limit) {
+        (*this)(name, value);
+        if (value < 0 || value > limit)
+            Refuse(std::string(name) + " is " + Int_text(value) + ", not in 0.." +
+                   std::to_string(limit));
+    }
+
+  private:
+    [[noreturn]] void Refuse(std::string what) const {
+        throw ProjectFileError{lines_.Line(), std::move(what)};
+    }
+
+    LineReader& lines_;
+};
+
+// Writes each value that it visits as a line.
+class Writer {
+  public:
+    explicit Writer(LineWriter& lines) : lines_(lines) {}
+
+    void operator()(const char*, const std::string& value) { lines_.Write_line(value); }
+    template <class T>
+    void operator()(const char*, const T& value) {
+        lines_.Write_line(Blank_text(value));
+    }
+    void Count(const char* name, const Int16& value, int) { (*this)(name, value); }
+
+  private:
+    LineWriter& lines_;
+};
+
+// Finds the first text that would not come back from a line of its own.
+struct TextCheck {
+    std::optional<std::string> Unsavable;
+
+    void operator()(const char* name, const std::string& value) {
+        using namespace std::string_view_literals;
+        if (Unsavable) return;
+        if (value.find_first_of("\r\n\0"sv) != value.npos || value.size() > MaxTextLength)
+            Unsavable = name;
+    }
+};
+
+}  // namespace
+
+ProjectFileReading Read_project(std::string_view bytes, Project& project) {
+    LineReader lines(bytes);
+    Reader reader(lines);
+    const auto read = std::make_unique<Project>(project);
+    lines.Read_line();
+    try {
+        Visit_project(*read, reader);
+    } catch (const ProjectFileError& error) {
+        return {error, 0};
+    }
+    project = *read;
+    return {std::nullopt, lines.Ended_at()};
+}
+
+std::string Project_bytes(const Project& project, std::string_view saved_on) {
+    LineWriter lines;
+    Writer writer(lines);
+    lines.Write_line(project.ProjectFile, " saved on ", saved_on);
+    Visit_project(project, writer);
+    lines.Write_line("END OF FILE");
+    return lines.Bytes();
+}
+
+std::optional<std::string> Unsavable_text(const Project& project) {
+    TextCheck check;
+    Visit_texts(project, check);
+    return check.Unsavable;
+}
+
+}  // namespace tidemark

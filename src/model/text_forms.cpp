@@ -1,0 +1,89 @@
+#include "model/text_forms.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "model/rounding.h"
+
+namespace tidemark {
+
+namespace {
+
+constexpr bool Is_digit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+std::string_view Without_leading_blanks(std::string_view text) {
+    const auto start = text.find_first_not_of(' ');
+    return start == text.npos ? std::string_view() : text.substr(start);
+}
+
+std::string Fraction_text(double value, int digits) {
+    std::array<char, 64> buffer{};
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(),
+                                            std::fabs(value), std::chars_format::general, digits);
+    std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    if (text.starts_with("0.")) text.remove_prefix(1);
+    return (value < 0 ? "-" : " ") + std::string(text);
+}
+
+// A number beyond a double's range: an infinity, or 0 when its exponent is negative.
+double Out_of_range_value(std::string_view number) {
+    const auto exponent = number.find_first_of("eE");
+    const bool tiny = exponent != number.npos && number.substr(exponent + 1).starts_with('-');
+    return tiny ? 0.0 : std::numeric_limits<double>::infinity();
+}
+
+}  // namespace
+
+std::string Int_text(Int16 value) {
+    return std::to_string(int{value});
+}
+
+std::string Blank_text(Int16 value) {
+    return value < 0 ? Int_text(value) : " " + Int_text(value);
+}
+
+std::string Blank_text(float value) {
+    return Fraction_text(value, 7);
+}
+
+std::string Blank_text(double value) {
+    return Fraction_text(value, 15);
+}
+
+std::string Blank_text(bool value) {
+    return value ? " True" : " False";
+}
+
+bool Flag_value(std::string_view text) {
+    return text == " True";
+}
+
+double Numeric_value(std::string_view text) {
+    text = Without_leading_blanks(text);
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) text.remove_prefix(1);
+    // from_chars would also read a second sign, "inf" and "nan".
+    if (text.empty() || !(Is_digit(text[0]) || text[0] == '.')) return 0;
+
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error == std::errc::result_out_of_range)
+        value = Out_of_range_value({text.data(), static_cast<std::size_t>(end - text.data())});
+    return negative ? -value : value;
+}
+
+Int16 Int_value(std::string_view text) {
+    // Nearly every number of a project is a few digits behind a blank or a sign.
+    int whole = 0;
+    const std::string_view number = Without_leading_blanks(text);
+    const char* const last = number.data() + number.size();
+    const auto [end, error] = std::from_chars(number.data(), last, whole);
+    if (error == std::errc() && end == last) return whole;
+    return Round_half_even(Numeric_value(text));
+}
+
+}  // namespace tidemark

@@ -1,0 +1,35 @@
+// How numbers become text and text becomes numbers. None of it depends on the locale.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/int16.h"
+
+namespace tidemark {
+
+// Decimal text without a blank; "-" before a negative number.
+std::string Int_text(Int16 value);
+
+// Blank-prefixed text: a blank before a value that is not negative, "-" before a negative one.
+// Fractions have "." as decimal point, no zero before it (" .8333333") and no trailing zeros.
+std::string Blank_text(Int16 value);
+std::string Blank_text(float value);   // at most 7 significant digits
+std::string Blank_text(double value);  // at most 15 significant digits
+
+// " True" or " False".
+std::string Blank_text(bool value);
+
+// True exactly for " True", blank included.
+bool Flag_value(std::string_view text);
+
+// The longest leading part of the text that reads as a decimal number (leading blanks skipped;
+// sign, digits, decimal point, exponent); 0 when there is none. A number too large for a double is
+// an infinity.
+double Numeric_value(std::string_view text);
+
+// The same for a 16-bit number: the numeric value, rounded with halves to the even neighbour.
+// Throws Overflow when that does not fit.
+Int16 Int_value(std::string_view text);
+
+}  // namespace tidemark

@@ -1,0 +1,52 @@
+// Files, as the rules ask for them. Paths are bytes in the file system's own encoding.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace tidemark {
+
+// What became of a file operation: nothing to say, or the reason why it failed, in words.
+class FileResult {
+  public:
+    static FileResult Done() { return {}; }
+    static FileResult Failed(std::string reason) { return FileResult(std::move(reason)); }
+
+    explicit operator bool() const { return !reason_; }
+    const std::string& Reason() const { return *reason_; }  // only of a failure
+
+  private:
+    FileResult() = default;
+    explicit FileResult(std::string reason) : reason_(std::move(reason)) {}
+
+    std::optional<std::string> reason_;
+};
+
+class Files {
+  public:
+    virtual ~Files() = default;
+
+    virtual bool Exists(const std::string& path) = 0;
+
+    // Reads a regular file whole into `bytes`. Refuses anything else (a folder, a pipe, a device)
+    // and any file of more than `limit` bytes, without waiting and without reading them.
+    virtual FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) = 0;
+
+    // Makes `bytes` the file's content, whole or not at all: they are written beside the target,
+    // flushed to the disk and renamed over it. After a failure the old file is as it was.
+    virtual FileResult Replace(const std::string& path, std::string_view bytes) = 0;
+};
+
+// The machine's own file system.
+class DiskFiles : public Files {
+  public:
+    DiskFiles();
+    bool Exists(const std::string& path) override;
+    FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) override;
+    FileResult Replace(const std::string& path, std::string_view bytes) override;
+};
+
+}  // namespace tidemark
