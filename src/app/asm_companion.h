@@ -1,0 +1,25 @@
+// The console companion: the assembler files of projects, without a screen.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "platform/files.h"
+
+namespace tidemark {
+
+struct CompanionTask {
+    std::string OutputFolder;  // empty: each file goes where its name says
+    std::vector<std::string> Projects;
+};
+
+// Writes the assembler files of each project: the VTP file, and the LWM file when there are
+// polygons. A name that the project does not hold is the project's own with -VTP.asm or -LWM.asm.
+// Prints a line for each file written to `out`; refusals go to `errors` after the project's name.
+// The two files of a project, and the projects, do not depend on one another. True when nothing was
+// refused.
+bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
+                           std::ostream& errors);
+
+}  // namespace tidemark

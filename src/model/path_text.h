@@ -1,0 +1,15 @@
+// Cutting paths. Both "\" and "/" separate folders, wherever a path was typed.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tidemark {
+
+// What follows the last separator; the whole path when it has none.
+std::string Last_part(std::string_view path);
+
+// The path up to and with its last separator; empty when it has none.
+std::string Folder_part(std::string_view path);
+
+}  // namespace tidemark

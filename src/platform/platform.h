@@ -1,0 +1,21 @@
+// All that the program asks of its surroundings, handed to the rules as one.
+#pragma once
+
+#include <string>
+
+#include "platform/choosers.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+
+namespace tidemark {
+
+struct Platform {
+    Messages& messages;
+    Choosers& choosers;
+    Files& files;
+    Clock& clock;
+    std::string StartFolder;  // the folder that was current at start-up: where choosers begin
+};
+
+}  // namespace tidemark
