@@ -1,0 +1,42 @@
+// The Status panel's frame "LWM Polygons".
+#pragma once
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "model/drawing_modes.h"
+#include "model/project.h"
+#include "platform/messages.h"
+#include "platform/qt_list_box.h"
+
+namespace tidemark {
+
+class LWMFrame : public QGroupBox {
+    Q_OBJECT
+
+  public:
+    LWMFrame(Project& project, Messages& messages, QWidget* parent = nullptr);
+
+    // The selected polygon's list position (polygon - 1); -1 for none.
+    int Selected() const;
+
+    // Water lies at a height and land conforms to the terrain, until the user says otherwise.
+    void Mode_chosen(const DrawingMode& mode);
+
+  Q_SIGNALS:
+    void Graphics_outdated();              // the map has to be drawn again
+    void SaveEntry_changed(bool enabled);  // of the menu entry LWMsave
+
+  private:
+    void Lay_out();
+
+    Project& project_;
+    Messages& messages_;
+    ListBox* LWMlistBox_;
+    QRadioButton* HeightOption_;
+    QLineEdit* PolyHeightText_;
+    QRadioButton* ConformOption_;
+};
+
+}  // namespace tidemark

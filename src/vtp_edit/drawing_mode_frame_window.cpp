@@ -1,0 +1,32 @@
+#include "vtp_edit/drawing_mode_frame_window.h"
+
+#include <QVBoxLayout>
+
+#include "platform/qt_text.h"
+
+namespace tidemark {
+
+DrawingModeFrame::DrawingModeFrame(QWidget* parent)
+    : QGroupBox("Drawing Mode", parent), DrawModeCombo_(new QComboBox) {
+    DrawModeCombo_->setObjectName("DrawModeCombo");
+    DrawModeCombo_->setAccessibleName("Drawing mode");
+    for (const DrawingMode& mode : DrawingModes) DrawModeCombo_->addItem(To_qt(mode.Item));
+    DrawModeCombo_->setMaxVisibleItems(static_cast<int>(DrawingModes.size()));
+    (new QVBoxLayout(this))->addWidget(DrawModeCombo_);
+    connect(DrawModeCombo_, &QComboBox::activated, this, &DrawingModeFrame::DrawModeCombo_Click);
+}
+
+std::string DrawingModeFrame::Item() const {
+    return From_qt(DrawModeCombo_->currentText());
+}
+
+void DrawingModeFrame::Select_mode(int index) {
+    DrawModeCombo_->setCurrentIndex(index);
+    DrawModeCombo_Click();
+}
+
+void DrawingModeFrame::DrawModeCombo_Click() {
+    Q_EMIT Mode_chosen(*Find_mode(Item()));
+}
+
+}  // namespace tidemark
