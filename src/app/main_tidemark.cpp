@@ -1,1 +1,36 @@
-int main() {}
+// tidemark: the editor.
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+#include "app/qt_application.h"
+#include "app/tidemark_main_window.h"
+
+namespace {
+
+// The project file to open, if any. Needs no display, so that --help and --version always answer.
+QStringList Project_argument(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName("tidemark");
+    QCoreApplication::setApplicationVersion(TIDEMARK_VERSION);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        "Draws coastlines, rivers, roads and land and water polygons over a map, as scenery for "
+        "Flight Simulator 2002.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument("project", "The project file to open.", "[PROJECT.TDM]");
+    parser.process(application);
+    if (parser.positionalArguments().size() > 1) parser.showHelp(2);
+    return parser.positionalArguments();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QStringList projects = Project_argument(argc, argv);
+    tidemark::TidemarkApplication application(argc, argv);
+    tidemark::TidemarkMain window;
+    window.show();
+    for (const QString& path : projects) window.Open(QFileInfo(path).absoluteFilePath());
+    return QApplication::exec();
+}

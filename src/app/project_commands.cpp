@@ -33,10 +33,6 @@ std::string Refusal(const std::string& path, int line, const std::string& what) 
 
 }  // namespace
 
-std::string Title_part(const Project& project) {
-    return Last_part(project.ProjectFile);
-}
-
 bool Choose_project_to_save(Project& project, Platform& platform) {
     const auto path = platform.choosers.Choose(Project_chooser(platform, true));
     if (!path) return false;
@@ -84,6 +80,11 @@ OpenResult Open_project(const std::string& path, Project& project, Platform& pla
     if (reading.EndedAtLine == 0) return {true, ""};
     return {true, Refusal(path, reading.EndedAtLine,
                           "the file ends early; the values that are missing are 0, off or empty")};
+}
+
+bool May_exit(const Project& project, Messages& messages) {
+    return !project.DataChanged || Ask(messages, "Tidemark - Exit Warning",
+                                       "Data has not been saved - do you wish to exit?");
 }
 
 }  // namespace tidemark

@@ -9,10 +9,6 @@
 
 namespace tidemark {
 
-// What the main window's title says of a project file: the last part of its path. The window shows
-// it in upper case.
-std::string Title_part(const Project& project);
-
 // Asks for a file to save to. False when the user cancels or the chosen path cannot stand in a
 // project file (Warn); ProjectFile is then as it was.
 bool Choose_project_to_save(Project& project, Platform& platform);
@@ -35,5 +31,8 @@ struct OpenResult {
 // Status names the file, the line and what is wrong. DataChanged stays for the caller to clear, who
 // has the background to load first.
 OpenResult Open_project(const std::string& path, Project& project, Platform& platform);
+
+// Whether the program may end: asks while there are unsaved changes.
+bool May_exit(const Project& project, Messages& messages);
 
 }  // namespace tidemark

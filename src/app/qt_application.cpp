@@ -8,7 +8,6 @@ namespace tidemark {
 
 TidemarkApplication::TidemarkApplication(int& argc, char** argv) : QApplication(argc, argv) {
     setApplicationName("tidemark");
-    setApplicationVersion(TIDEMARK_VERSION);
 }
 
 bool TidemarkApplication::notify(QObject* receiver, QEvent* event) {

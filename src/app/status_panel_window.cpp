@@ -1,0 +1,74 @@
+#include "app/status_panel_window.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace tidemark {
+
+namespace {
+
+// A frame with one line about the cursor. The line does not widen the panel as it changes.
+QLabel* Add_cursor_frame(QVBoxLayout& column, const QString& caption, const QString& name) {
+    auto* const frame = new QGroupBox(caption);
+    auto* const label = new QLabel("--", frame);
+    label->setObjectName(name);
+    label->setAccessibleName(caption);
+    label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* const layout = new QVBoxLayout(frame);
+    layout->addWidget(label);
+    column.addWidget(frame);
+    return label;
+}
+
+QPushButton* Add_button(QHBoxLayout& row, const QString& caption, const QString& name) {
+    auto* const button = new QPushButton(caption);
+    button->setObjectName(name);
+    row.addWidget(button);
+    return button;
+}
+
+}  // namespace
+
+Status::Status(Project& project, Messages& messages, QWidget* owner)
+    : QWidget(owner, Qt::Tool),
+      drawing_mode_(new DrawingModeFrame(this)),
+      vtp_(new VTPFrame(project, messages, this)),
+      lwm_(new LWMFrame(project, messages, this)),
+      kill_(new KillFrame(project, messages, this)) {
+    setObjectName("Status");
+    setWindowTitle("Tidemark - Status Panel");
+
+    auto* const column = new QVBoxLayout(this);
+    column->addWidget(drawing_mode_);
+    column->addWidget(vtp_, 4);
+    column->addWidget(lwm_, 3);
+    column->addWidget(kill_, 2);
+    StatusLabel1_ = Add_cursor_frame(*column, "LOD8 cell co-ordinates (VTP)", "StatusLabel1");
+    StatusLabel2_ = Add_cursor_frame(*column, "LOD13 cell co-ordinates", "StatusLabel2");
+    auto* const buttons = new QHBoxLayout;
+    column->addLayout(buttons);
+
+    const auto* const refresh = Add_button(*buttons, "Refresh Graphics", "RefreshButton");
+    connect(refresh, &QPushButton::clicked, this, &Status::RefreshButton_Click);
+    const auto* const hide_button = Add_button(*buttons, "Hide Status Panel", "HideButton");
+    connect(hide_button, &QPushButton::clicked, this, &Status::hide);
+
+    connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, vtp_, &VTPFrame::Start_new_segment);
+    connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, lwm_, &LWMFrame::Mode_chosen);
+}
+
+void Status::Show_cursor(const QString& in_LOD8_cell, const QString& in_LOD13_cell) {
+    StatusLabel1_->setText(in_LOD8_cell);
+    StatusLabel2_->setText(in_LOD13_cell);
+}
+
+void Status::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    drawing_mode_->Select_mode(0);
+    Q_EMIT Resized();
+}
+
+}  // namespace tidemark

@@ -1,0 +1,47 @@
+// The Status panel: the tool window beside the map.
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+
+#include "lwm/kill_frame_window.h"
+#include "lwm/lwm_frame_window.h"
+#include "vtp_edit/drawing_mode_frame_window.h"
+#include "vtp_edit/vtp_frame_window.h"
+
+namespace tidemark {
+
+// One column of frames: the drawing mode, the three lists, the two cursor positions and two
+// buttons. Closing it by its frame hides it.
+class Status : public QWidget {
+    Q_OBJECT
+
+  public:
+    Status(Project& project, Messages& messages, QWidget* owner);
+
+    DrawingModeFrame& Drawing_mode() { return *drawing_mode_; }
+    VTPFrame& VTP() { return *vtp_; }
+    LWMFrame& LWM() { return *lwm_; }
+    KillFrame& Kill() { return *kill_; }
+
+    // The two lines that say where the cursor is.
+    void Show_cursor(const QString& in_LOD8_cell, const QString& in_LOD13_cell);
+
+  Q_SIGNALS:
+    void RefreshButton_Click();
+    // The panel has got a new size, or its first one; the first drawing mode is then selected.
+    void Resized();
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    DrawingModeFrame* drawing_mode_;
+    VTPFrame* vtp_;
+    LWMFrame* lwm_;
+    KillFrame* kill_;
+    QLabel* StatusLabel1_;
+    QLabel* StatusLabel2_;
+};
+
+}  // namespace tidemark

@@ -1,0 +1,221 @@
+#include "app/tidemark_main_window.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QStatusBar>
+
+#include "app/project_commands.h"
+#include "model/path_text.h"
+#include "output/assembler_files.h"
+#include "platform/qt_text.h"
+
+namespace tidemark {
+
+struct TidemarkMain::MenuEntry {
+    const char* Name;
+    const char* Caption;  // "-": a separator line
+    void (TidemarkMain::*Handler)() = nullptr;
+    bool StartsEnabled = true;
+    QKeySequence::StandardKey Shortcut = QKeySequence::UnknownKey;
+};
+
+struct TidemarkMain::Menu {
+    const char* Name;
+    const char* Caption;
+    std::vector<MenuEntry> Entries;
+};
+
+const std::vector<TidemarkMain::Menu>& TidemarkMain::Menus() {
+    using T = TidemarkMain;
+    constexpr bool off = false;
+    static const std::vector<Menu> menus{
+        {"FileMenu",
+         "&File",
+         {{"FileOpen", "&Open Project", &T::FileOpen_Click, true, QKeySequence::Open},
+          {"sep1", "-"},
+          {"FileSave", "&Save Project", &T::FileSave_Click, off, QKeySequence::Save},
+          {"FileSaveAs", "Save Project &As ...", &T::FileSaveAs_Click, true, QKeySequence::SaveAs},
+          {"sep2", "-"},
+          {"FileExit", "E&xit", &T::FileExit_Click, true, QKeySequence::Quit}}},
+        {"BackgroundMenu",
+         "&Background",
+         {{"BackgroundLoad", "&Load background image"},
+          {"BackgroundProperties", "Change background &properties", nullptr, off}}},
+        {"Output",
+         "&Output",
+         {{"LWMsave", "Save &LWM data to file", &T::LWMsave_Click, off},
+          {"VTPsave", "Save &VTP data to file", &T::VTPsave_Click, off},
+          {"sep3", "-"},
+          {"OutputPreferences", "&Preferences"}}},
+        {"HelpMenu",
+         "&Help",
+         {{"ShowStatus", "&Show Status Panel", &T::ShowStatus_Click},
+          {"CellCalc", "&Cell Calculator"},
+          {"sep5", "-"},
+          {"Instructions", "&Instructions"},
+          {"Tutorial", "&Tutorial"},
+          {"sep4", "-"},
+          {"HelpAbout", "&About"}}},
+    };
+    return menus;
+}
+
+TidemarkMain::TidemarkMain()
+    : project_(std::make_unique<Project>()),
+      messages_(*this),
+      choosers_(*this),
+      platform_{messages_, choosers_, files_, clock_, From_qt(QDir::currentPath())},
+      status_(new Status(*project_, messages_, this)) {
+    setObjectName("TidemarkMain");
+    setWindowTitle("Tidemark");
+    setAcceptDrops(true);
+    Build_menus();
+    statusBar();
+    Wire_status_panel();
+    Form_Load();
+}
+
+TidemarkMain::~TidemarkMain() = default;
+
+void TidemarkMain::Build_menus() {
+    for (const Menu& menu : Menus()) {
+        QMenu* const shown = menuBar()->addMenu(menu.Caption);
+        shown->setObjectName(menu.Name);
+        for (const MenuEntry& entry : menu.Entries) {
+            const bool is_separator = QLatin1String(entry.Caption) == QLatin1String("-");
+            QAction* const action =
+                is_separator ? shown->addSeparator() : shown->addAction(entry.Caption);
+            action->setObjectName(entry.Name);
+            action->setEnabled(entry.StartsEnabled);
+            if (entry.Shortcut != QKeySequence::UnknownKey) action->setShortcuts(entry.Shortcut);
+            if (entry.Handler) connect(action, &QAction::triggered, this, entry.Handler);
+        }
+    }
+}
+
+void TidemarkMain::Wire_status_panel() {
+    const auto redraw = &TidemarkMain::Refresh_Graphics;
+    connect(status_, &Status::RefreshButton_Click, this, redraw);
+    connect(&status_->VTP(), &VTPFrame::Graphics_outdated, this, redraw);
+    connect(&status_->LWM(), &LWMFrame::Graphics_outdated, this, redraw);
+    connect(&status_->Kill(), &KillFrame::Graphics_outdated, this, redraw);
+    const QAction* const vtp_save = &Entry("VTPsave");
+    connect(&status_->VTP(), &VTPFrame::SaveEntry_changed, vtp_save, &QAction::setEnabled);
+    connect(&status_->Kill(), &KillFrame::SaveEntry_changed, vtp_save, &QAction::setEnabled);
+    connect(&status_->LWM(), &LWMFrame::SaveEntry_changed, &Entry("LWMsave"), &QAction::setEnabled);
+}
+
+// The two windows side by side, on the screen whatever its size.
+void TidemarkMain::Place_windows() {
+    constexpr int gap = 12;
+    constexpr QSize frame(2 * gap, 48);  // about what a window frame adds
+    constexpr QSize most(1280, 960);
+    const QRect screen_area = screen()->availableGeometry();
+    const int panel_width = qMax(300, status_->sizeHint().width());
+    const QSize space = screen_area.size() - QSize(panel_width + 2 * gap, 0) - 2 * frame;
+    resize(space.boundedTo(most));
+    move(screen_area.topLeft());
+    status_->resize(panel_width, height());
+    status_->move(screen_area.left() + width() + frame.width() + gap, screen_area.top());
+}
+
+// The project starts empty as it was made; what is left of the start-up is to be seen.
+void TidemarkMain::Form_Load() {
+    status_->VTP().Start_new_segment();
+    status_->Drawing_mode().Select_mode(0);
+    Place_windows();
+    status_->show();
+}
+
+void TidemarkMain::FileOpen_Click() {
+    if (const auto path = Choose_project_to_open(platform_)) Open(To_qt(*path));
+}
+
+void TidemarkMain::Open(const QString& path) {
+    const std::string chosen = From_qt(path);
+    const OpenResult result = Open_project(chosen, *project_, platform_);
+    statusBar()->showMessage(To_qt(result.Status));
+    if (!result.Opened) return;
+
+    Show_title(chosen);
+    Entry("LWMsave").setEnabled(project_->PrefsSet);
+    Entry("VTPsave").setEnabled(project_->PrefsSet);
+    Entry("FileSave").setEnabled(true);
+    project_->DataChanged = false;
+}
+
+void TidemarkMain::FileSave_Click() {
+    Save_project(*project_, platform_);
+    if (!project_->ProjectFile.empty()) Show_title(project_->ProjectFile);
+    Refresh_Graphics();
+}
+
+void TidemarkMain::FileSaveAs_Click() {
+    if (!Choose_project_to_save(*project_, platform_)) return;
+    Entry("FileSave").setEnabled(true);
+    Show_title(project_->ProjectFile);
+    FileSave_Click();
+}
+
+void TidemarkMain::FileExit_Click() {
+    close();
+}
+
+void TidemarkMain::LWMsave_Click() {
+    Save_LWM_file(*project_, messages_, files_);
+    Refresh_Graphics();
+}
+
+void TidemarkMain::VTPsave_Click() {
+    Save_VTP_file(*project_, messages_, files_);
+    Refresh_Graphics();
+}
+
+void TidemarkMain::ShowStatus_Click() {
+    status_->show();
+    status_->raise();
+    Refresh_Graphics();
+}
+
+QAction& TidemarkMain::Entry(const char* name) const {
+    return *findChild<QAction*>(name);
+}
+
+void TidemarkMain::Show_title(const std::string& project_path) {
+    setWindowTitle("Tidemark - " + To_qt(Last_part(project_path)).toUpper());
+}
+
+void TidemarkMain::Refresh_Graphics() {}
+
+void TidemarkMain::closeEvent(QCloseEvent* event) {
+    event->setAccepted(May_exit(*project_, messages_));
+}
+
+namespace {
+
+// The one project file that is being dragged; empty for anything else.
+QString Dragged_project(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.first().isLocalFile()) return {};
+    const QString path = urls.first().toLocalFile();
+    return path.endsWith(".tdm", Qt::CaseInsensitive) ? path : QString();
+}
+
+}  // namespace
+
+void TidemarkMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (!Dragged_project(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void TidemarkMain::dropEvent(QDropEvent* event) {
+    const QString path = Dragged_project(*event->mimeData());
+    if (path.isEmpty()) return;
+    event->acceptProposedAction();
+    Open(path);
+}
+
+}  // namespace tidemark
