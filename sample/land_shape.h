@@ -13,7 +13,7 @@ QPointF On_picture(GeoPoint point);
 QPolygonF On_picture(const GeoLine& line);
 
 // All land. A coastline has the land on its right: one that ends on the map's edge goes on along
-// that edge, clockwise, to the start of the next. Closed coastlines are islands.
+// that edge, clockwise, to the start of the next. The islands are closed lines.
 QPainterPath Land_shape(const std::vector<GeoLine>& coast, const std::vector<GeoLine>& islands);
 
 }  // namespace tidemark
