@@ -1,0 +1,45 @@
+#include "canvas/background.h"
+
+namespace tidemark {
+
+namespace {
+
+void Clear_project(Project& p) {
+    p.BGLOD8X = p.BGLOD8Y = 0;
+    p.BGLOD13tlX = p.BGLOD13tlY = p.BGLOD13brX = p.BGLOD13brY = 0;
+    p.DataChanged = false;
+    p.VTPCount = p.LWMCount = p.KillCount = 0;
+}
+
+}  // namespace
+
+bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
+                       const std::string& start_folder) {
+    if (project.DataChanged) {
+        if (!Ask(messages, "Tidemark - Load warning",
+                 "This will clear all of your current data - do you wish to continue?"))
+            return false;
+        Clear_project(project);
+    }
+    FileChooser chooser;
+    chooser.Name = "LoadBMPdialog";
+    chooser.Title = "Tidemark - Open background image";
+    chooser.Filter = "*.BMP;*.GIF;*.JPG";
+    chooser.InitialFolder = start_folder;
+    const auto path = choosers.Choose(chooser);
+    if (!path) return false;
+    project.BackgroundFile = *path;
+    return true;
+}
+
+void Load_background_file(Project& project, Messages& messages, const ShowImage& show_image) {
+    project.BackgroundLoaded = false;
+    if (!show_image(project.BackgroundFile)) {
+        Warn(messages, "An error occurred when trying to load " + project.BackgroundFile);
+        return;
+    }
+    project.BackgroundLoaded = true;
+    project.DataChanged = true;
+}
+
+}  // namespace tidemark

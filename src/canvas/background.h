@@ -1,0 +1,27 @@
+// Choosing and loading the background image, without its window.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "model/project.h"
+#include "platform/choosers.h"
+#include "platform/messages.h"
+
+namespace tidemark {
+
+// Asks for a background image; its path becomes BackgroundFile. Unsaved changes are cleared first
+// when the user agrees: the georeference and all points, polygons and cleared cells. False when the
+// user answers No or cancels; what was cleared stays cleared.
+bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
+                       const std::string& start_folder);
+
+// Shows the image of a file on the canvas. False when the file cannot be shown; what was shown
+// before then stays.
+using ShowImage = std::function<bool(const std::string& path)>;
+
+// Loads BackgroundFile. BackgroundLoaded tells whether that worked; a failure is told with Warn,
+// success sets DataChanged.
+void Load_background_file(Project& project, Messages& messages, const ShowImage& show_image);
+
+}  // namespace tidemark

@@ -1,0 +1,36 @@
+// Where the project's positions lie on the canvas, and the way back from the mouse.
+//
+// Canvas pixel (0, 0) is the image's top-left corner, x to the right, y down. ScaleX and ScaleY are
+// canvas pixels to one VTP unit; differences are formed in 16 bits (Overflow when they do not fit)
+// and then multiplied in 32-bit floating point, so that every pixel position carries a fraction.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "model/project.h"
+#include "platform/drawing_surface.h"
+
+namespace tidemark {
+
+// The pixel of a position in VTP units.
+CanvasPoint VTP_to_canvas(const Project& project, Int16 x, Int16 y);
+
+// The pixel of a position in cell units inside the LOD13 cell `column`, `row`.
+CanvasPoint Cell_to_canvas(const Project& project, Int16 column, Int16 row, Int16 x, Int16 y);
+
+// What the Status panel says about the cursor.
+struct CursorTexts {
+    std::string VTP;   // such as " 4848, 5104"
+    std::string Cell;  // such as "[ 12, 7 ]  100, 37"
+};
+
+// Sets the project's cursor values from a canvas pixel. A map without scale and a pixel whose
+// position does not fit 16 bits leave them as they are and give nothing.
+std::optional<CursorTexts> Move_cursor(Project& project, float x, float y);
+
+// The number of the VTP point nearest to the cursor, the lowest of equally near ones; nothing in a
+// project without points.
+std::optional<int> Nearest_point(const Project& project);
+
+}  // namespace tidemark

@@ -1,0 +1,37 @@
+// Finds the LOD8 cell of a latitude and longitude given in degrees, minutes and seconds.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/int16.h"
+#include "platform/messages.h"
+
+namespace tidemark {
+
+inline constexpr std::string_view LatitudeTemplate = "00:00:00.0";
+inline constexpr std::string_view LongitudeTemplate = "000:00:00.0";
+
+// What stands in the calculator's controls.
+struct CalculatorTexts {
+    std::string Latitude{LatitudeTemplate};
+    std::string NS{"N"};
+    std::string Longitude{LongitudeTemplate};
+    std::string EW{"E"};
+};
+
+struct LOD8Cell {
+    Int16 X, Y;
+    bool operator==(const LOD8Cell&) const = default;
+};
+
+// The cell of the texts' position; it is not limited to the world grid (90 S, 180 E gives 768,
+// 512). Bad input is told with Warn, resets the text at fault to its template and gives nothing.
+std::optional<LOD8Cell> Calculate_cell(CalculatorTexts& texts, Messages& messages);
+
+// Tells the user the cell. With `offer_copy` it asks whether to copy it to the background
+// properties; true when the user wants that.
+bool Report_cell(const LOD8Cell& cell, bool offer_copy, Messages& messages);
+
+}  // namespace tidemark
