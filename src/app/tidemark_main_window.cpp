@@ -112,15 +112,14 @@ void TidemarkMain::Wire_status_panel() {
 // The two windows side by side, on the screen whatever its size.
 void TidemarkMain::Place_windows() {
     constexpr int gap = 12;
-    constexpr QSize frame(2 * gap, 48);  // about what a window frame adds
+    constexpr int title_height = 48;  // about what a window frame adds
     constexpr QSize most(1280, 960);
-    const QRect screen_area = screen()->availableGeometry();
+    const QRect area = screen()->availableGeometry().adjusted(gap, gap, -gap, -gap - title_height);
     const int panel_width = qMax(300, status_->sizeHint().width());
-    const QSize space = screen_area.size() - QSize(panel_width + 2 * gap, 0) - 2 * frame;
-    resize(space.boundedTo(most));
-    move(screen_area.topLeft());
+    resize((area.size() - QSize(panel_width + 2 * gap, 0)).boundedTo(most));
+    move(area.topLeft());
     status_->resize(panel_width, height());
-    status_->move(screen_area.left() + width() + frame.width() + gap, screen_area.top());
+    status_->move(area.left() + width() + 2 * gap, area.top());
 }
 
 // The project starts empty as it was made; what is left of the start-up is to be seen.
@@ -193,6 +192,7 @@ void TidemarkMain::Refresh_Graphics() {}
 
 void TidemarkMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(May_exit(*project_, messages_));
+    if (event->isAccepted()) status_->hide();
 }
 
 namespace {

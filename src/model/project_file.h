@@ -28,7 +28,7 @@
 namespace tidemark {
 
 // No project reaches this size in bytes: the tables fill half a megabyte at most.
-inline constexpr std::uintmax_t MaxProjectFileSize = 16 * 1024 * 1024;
+inline constexpr std::uintmax_t MaxProjectFileSize = 16 << 20;
 
 // Bytes, the most that one text of a project may have.
 inline constexpr std::size_t MaxTextLength = 32767;

@@ -4,6 +4,13 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "model/list_selection.h"
+#include "model/segments.h"
+#include "platform/qt_keys.h"
+#include "platform/qt_text.h"
+#include "vtp_edit/vtp_list.h"
+#include "vtp_edit/vtp_points.h"
+
 namespace tidemark {
 
 namespace {
@@ -25,6 +32,7 @@ VTPFrame::VTPFrame(Project& project, Messages& messages, QWidget* parent)
       VTPwidthText_(new QLineEdit("80")) {
     Lay_out();
     connect(VTPlistbox_, &ListBox::Clicked, this, &VTPFrame::Graphics_outdated);
+    connect(VTPlistbox_, &ListBox::Key_pressed, this, &VTPFrame::VTPlistbox_KeyDown);
 }
 
 void VTPFrame::Lay_out() {
@@ -47,6 +55,8 @@ void VTPFrame::Lay_out() {
     grid->addWidget(reverse, 4, 0);
     grid->addWidget(edit, 4, 1);
     grid->setRowStretch(0, 1);
+    connect(change, &QPushButton::clicked, this, &VTPFrame::ChangeButton_Click);
+    connect(reverse, &QPushButton::clicked, this, &VTPFrame::ReverseButton_Click);
     connect(edit, &QPushButton::clicked, this, &VTPFrame::EditButton_clicked);
 }
 
@@ -60,6 +70,55 @@ void VTPFrame::Select(int position) {
 
 void VTPFrame::Start_new_segment() {
     NewSegment_->setChecked(true);
+}
+
+std::optional<Int16> VTPFrame::Take_width() {
+    std::string text = From_qt(VTPwidthText_->text());
+    const std::optional<Int16> width = tidemark::Take_width(text, messages_);
+    VTPwidthText_->setText(To_qt(text));
+    return width;
+}
+
+void VTPFrame::Add_VTP_Point() {
+    const std::optional<Int16> width = Take_width();
+    if (!width) return;
+    const NextPoint next{Selected(), NewSegment_->isChecked(), *width};
+    const std::optional<int> added = tidemark::Add_VTP_Point(project_, next, messages_);
+    if (!added) return;
+    NewSegment_->setChecked(false);
+    Show_points(*added);
+}
+
+void VTPFrame::Refresh_VTP_List() {
+    Show_points(Selected());
+}
+
+void VTPFrame::Show_points(int selected) {
+    Repair_segments(project_);
+    VTPlistbox_->Show_lines(VTP_list_lines(project_),
+                            Selected_after_refresh(selected, project_.VTPCount));
+    if (project_.PrefsSet) Q_EMIT SaveEntry_changed(Has_VTP_data(project_));
+    Q_EMIT Graphics_outdated();
+}
+
+void VTPFrame::VTPlistbox_KeyDown(int key_code) {
+    const int selected = Selected();
+    if (key_code != KeyDelete || selected < 0) return;
+    Delete_VTP_Point(project_, selected + 1);
+    Show_points(Selected_after_delete(selected, project_.VTPCount));
+}
+
+void VTPFrame::ChangeButton_Click() {
+    const std::optional<Int16> width = Take_width();
+    if (!width || Selected() < 0) return;
+    Change_segment_width(project_, Selected() + 1, *width);
+    Refresh_VTP_List();
+}
+
+void VTPFrame::ReverseButton_Click() {
+    if (Selected() < 0) return;
+    Reverse_segment(project_, Selected() + 1);
+    Refresh_VTP_List();
 }
 
 }  // namespace tidemark

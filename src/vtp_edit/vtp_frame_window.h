@@ -1,6 +1,8 @@
 // The Status panel's frame "VTP points / segments".
 #pragma once
 
+#include <optional>
+
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -25,6 +27,15 @@ class VTPFrame : public QGroupBox {
     // The next point added starts a new segment.
     void Start_new_segment();
 
+    // Adds a point at the cursor, in the drawing mode of the last click, and selects it.
+    void Add_VTP_Point();
+    // Shows the project's points as they are now; the selection stays as far as it can.
+    void Refresh_VTP_List();
+
+    void VTPlistbox_KeyDown(int key_code);
+    void ChangeButton_Click();
+    void ReverseButton_Click();
+
   Q_SIGNALS:
     void Graphics_outdated();              // the map has to be drawn again
     void SaveEntry_changed(bool enabled);  // of the menu entry VTPsave
@@ -32,6 +43,8 @@ class VTPFrame : public QGroupBox {
 
   private:
     void Lay_out();
+    std::optional<Int16> Take_width();
+    void Show_points(int selected);
 
     Project& project_;
     Messages& messages_;

@@ -1,0 +1,41 @@
+// Where the sample lies in the world, and how longitude and latitude become the map's units.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "model/limits.h"
+
+namespace tidemark {
+
+// Degrees, east and north positive.
+struct GeoPoint {
+    double Longitude, Latitude;
+};
+
+using GeoLine = std::vector<GeoPoint>;
+
+// VTP units or LOD13 cells, by axis: 0 is X or column, 1 is Y or row.
+using Position = std::array<int, 2>;
+
+inline constexpr int SampleLOD8X = 122;
+inline constexpr int SampleLOD8Y = 148;
+inline constexpr double WestLongitude = SampleLOD8X * LOD8DegreesEast - 180;
+inline constexpr double NorthLatitude = 90 - SampleLOD8Y * LOD8DegreesSouth;
+
+// The whole LOD8 cell, in VTP units.
+inline constexpr int AreaSize = (LastLOD13 + 1) * CellSizeVTP;
+inline constexpr int LastVTP = FirstVTP + AreaSize - 1;
+
+// Parts of the cell, 0..1 from its west and from its north edge.
+inline std::array<double, 2> Part_of_cell(GeoPoint point) {
+    return {(point.Longitude - WestLongitude) / LOD8DegreesEast,
+            (NorthLatitude - point.Latitude) / LOD8DegreesSouth};
+}
+
+inline GeoPoint Geo_point(Position position) {
+    return {WestLongitude + (position[0] - FirstVTP) * LOD8DegreesEast / AreaSize,
+            NorthLatitude - (position[1] - FirstVTP) * LOD8DegreesSouth / AreaSize};
+}
+
+}  // namespace tidemark

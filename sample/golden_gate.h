@@ -1,0 +1,39 @@
+// What the sample shows besides the coast of the mainland: islands, roads, streams, and what kind
+// of coast is where. Drawn by hand, good to a few hundred metres.
+#pragma once
+
+#include "geography.h"
+
+namespace tidemark {
+
+// Drawing modes.
+inline constexpr int PlainSegment = 0;
+inline constexpr int SandWithWaves = 1;
+inline constexpr int SandNoWaves = 2;
+inline constexpr int IceWithWaves = 3;
+inline constexpr int RiverCoast = 4;
+inline constexpr int Stream = 5;
+inline constexpr int DirtRoad = 6;
+inline constexpr int OneLane = 7;
+inline constexpr int TwoLanes = 9;
+
+// The drawing mode of the coast at a point.
+int Coast_mode(GeoPoint point);
+
+// VTP units, of every coastline.
+inline constexpr int CoastWidth = 40;
+
+// Closed lines, the first point repeated at the end; the land is on the right, as it is on the
+// right of the mainland's coastlines.
+const std::vector<GeoLine>& Islands();
+
+// A road, a river or a stream.
+struct DrawnLine {
+    int Mode;
+    int Width;  // VTP units, about 5 metres each
+    GeoLine Line;
+};
+
+const std::vector<DrawnLine>& Roads_and_streams();
+
+}  // namespace tidemark

@@ -1,0 +1,51 @@
+# Shared by the scripts beside it; source it.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+say() { printf '\n== %s\n' "$*"; }
+fail() {
+    printf '\n%s: %s\n' "$(basename "$0")" "$*" >&2
+    exit 1
+}
+
+build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev"
+walk_packages="xvfb xauth openbox fonts-dejavu-core"
+bench_packages="libbenchmark-dev libgeos-dev"
+check_packages="clang-format clang-tidy clang libclang-rt-14-dev"
+
+# Installs those of the Debian packages given that are not there yet.
+install_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    say "Installing ${missing[*]}"
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null ||
+            fail "these Debian packages are needed: ${missing[*]}; install them or run this as root"
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" apt-get update -qq || fail "apt-get update failed; is there a network?"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null ||
+        fail "apt-get could not install ${missing[*]}"
+}
+
+# Configures and builds a preset: build_preset NAME [target...]
+build_preset() {
+    local preset=$1
+    shift
+    say "Building the preset $preset"
+    cmake --preset "$preset" >build-"$preset".log 2>&1 || {
+        cat build-"$preset".log
+        fail "cmake could not configure the preset $preset"
+    }
+    rm -f build-"$preset".log
+    cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build of the preset $preset failed"
+}
+
+# Without a display, Qt wants a folder of its own for the run.
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$(mktemp -d)}

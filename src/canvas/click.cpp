@@ -1,0 +1,19 @@
+#include "canvas/click.h"
+
+namespace tidemark {
+
+std::optional<Adds> Take_left_click(Project& project, std::string_view mode_item,
+                                    Messages& messages) {
+    project.DataChanged = true;
+    const DrawingMode* const mode = Find_mode(mode_item);
+    if (!mode) {
+        Plain_box(messages, "Unknown drawing mode case encountered.");
+        return std::nullopt;
+    }
+    project.DrawMode = mode->Code;
+    // The cursor has never been anywhere on such a map.
+    const bool has_scale = project.ScaleX > 0 && project.ScaleY > 0;
+    return has_scale ? std::optional(mode->What) : std::nullopt;
+}
+
+}  // namespace tidemark

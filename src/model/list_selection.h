@@ -1,0 +1,26 @@
+// Which line of a Status panel list is selected after the list has changed, and when the Output
+// menu can save. List positions count from 0; -1 stands for nothing selected.
+#pragma once
+
+#include <algorithm>
+
+#include "model/project.h"
+
+namespace tidemark {
+
+// After a rebuild to `count` lines: the same position, or the last line when that is gone.
+constexpr int Selected_after_refresh(int selected, int count) {
+    return std::min(selected, count - 1);
+}
+
+// After the selected line was deleted and `count` are left: the line before it, or the new first.
+constexpr int Selected_after_delete(int selected, int count) {
+    return Selected_after_refresh(std::max(selected - 1, 0), count);
+}
+
+// There is something to write: the VTP file carries the points and the cleared cells.
+inline bool Has_VTP_data(const Project& project) {
+    return project.VTPCount + project.KillCount > 0;
+}
+
+}  // namespace tidemark

@@ -1,0 +1,18 @@
+// The lines of the Status panel's list of VTP points.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/project.h"
+
+namespace tidemark {
+
+// One line to a point, in point order; a segment stands between "[" and "]", with the short name of
+// its mode (or the code of a mode that has none) on its first line and its width on its last:
+//     [ 5000, 6000 Coast (waves)
+//       5010, 6005 ] W=80
+// The segment flags have to agree with one another (Repair_segments).
+std::vector<std::string> VTP_list_lines(const Project& project);
+
+}  // namespace tidemark

@@ -1,0 +1,46 @@
+// What editing does to the VTP points: add, insert, delete, reverse, change the width. Points are
+// numbered from 1; list positions count from 0 and -1 stands for nothing selected. The end flags
+// are right again after the next Repair_segments, which every list refresh runs.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/project.h"
+#include "platform/messages.h"
+
+namespace tidemark {
+
+inline constexpr std::string_view DefaultVTPWidthText = "80";
+
+// Makes the width text a whole number (halves to the even neighbour; 0 without a leading number)
+// and returns it. A width outside 0..300 is refused with a warning, and the text becomes the
+// default.
+std::optional<Int16> Take_width(std::string& text, Messages& messages);
+
+// What the Status panel says about the next point.
+struct NextPoint {
+    int Selected;  // list position
+    bool NewSegment;
+    Int16 Width;
+};
+
+// Adds a point at the cursor, in the drawing mode of the last click: behind the last point when
+// that one or none is selected or a new segment is to start, otherwise in place of the selected
+// point, which moves down by one. Returns the new point's list position; in a full project it
+// warns, changes nothing and returns nothing.
+std::optional<int> Add_VTP_Point(Project& project, const NextPoint& next, Messages& messages);
+
+// Where a segment's first point goes, the next point starts the segment with the mode and width
+// stored on itself.
+void Delete_VTP_Point(Project& project, int point);
+
+// The width of the segment that holds the point, which is the one stored on its first point.
+void Change_segment_width(Project& project, int point, Int16 width);
+
+// Turns round the points of the segment that holds the point; mode and width stay with it. Sets
+// DataChanged.
+void Reverse_segment(Project& project, int point);
+
+}  // namespace tidemark

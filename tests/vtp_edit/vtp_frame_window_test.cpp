@@ -1,0 +1,155 @@
+// The frames "Drawing Mode" and "VTP points / segments", by mouse and keys.
+#include "vtp_edit/vtp_frame_window.h"
+
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "fakes/recording_messages.h"
+#include "fakes/sample_projects.h"
+#include "vtp_edit/drawing_mode_frame_window.h"
+#include "walk/driver.h"
+
+namespace tidemark {
+namespace {
+
+class VTPFrameTest : public testing::Test {
+  protected:
+    VTPFrameTest() {
+        frame.resize(300, 400);
+        frame.show();
+    }
+
+    void Click_map(int x, int y, int mode) {
+        project.CursorVTPX = x;
+        project.CursorVTPY = y;
+        project.DrawMode = mode;
+        frame.Add_VTP_Point();
+    }
+
+    void Click_line(int position) {
+        const QRect line = list.visualRect(list.model()->index(position, 0));
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, line.center());
+    }
+
+    Project project;
+    RecordingMessages messages;
+    VTPFrame frame{project, messages};
+    ListBox& list = Control<ListBox>(frame, "VTPlistbox");
+    QCheckBox& new_segment = Control<QCheckBox>(frame, "NewSegment");
+    QLineEdit& width = Control<QLineEdit>(frame, "VTPwidthText");
+};
+
+TEST_F(VTPFrameTest, PointsAreDrawnInsertedReversedAndDeleted) {
+    QSignalSpy redraws(&frame, &VTPFrame::Graphics_outdated);
+    Click_map(5000, 6000, 1);
+    EXPECT_FALSE(new_segment.isChecked());
+    Click_map(5010, 6005, 1);
+    Click_map(5020, 6010, 1);
+    EXPECT_EQ(redraws.size(), 3);
+    EXPECT_EQ(frame.Selected(), 2);
+
+    Click_line(1);
+    EXPECT_EQ(redraws.size(), 4);
+    Click_map(5005, 6003, 1);
+    EXPECT_EQ(frame.Selected(), 1);
+    Click(Control<QPushButton>(frame, "ReverseButton"));
+    EXPECT_TRUE(project.DataChanged);
+    Type(width, "119.5");
+    Click(Control<QPushButton>(frame, "ChangeButton"));
+    EXPECT_EQ(width.text(), "120");
+    EXPECT_THAT(list.Lines(), testing::ElementsAre("[ 5020, 6010 Coast (waves)", "  5010, 6005",
+                                                   "  5005, 6003", "  5000, 6000 ] W=120"));
+    list.setFocus();
+    Press(list, Qt::Key_Period);  // no Delete, though its key code is Delete's
+    for (int left = 3; left >= 0; --left) {
+        Press(list, Qt::Key_Delete);
+        EXPECT_EQ(project.VTPCount, left);
+        EXPECT_EQ(frame.Selected(), std::min(left - 1, 0));
+    }
+    Press(list, Qt::Key_Delete);
+    Click(Control<QPushButton>(frame, "ReverseButton"));
+    EXPECT_TRUE(list.Lines().empty());
+}
+
+TEST_F(VTPFrameTest, AWrongWidthAddsNothingAndAFullListSaysSo) {
+    Type(width, "301");
+    Click_map(5000, 6000, 1);
+    EXPECT_EQ(project.VTPCount, 0);
+    EXPECT_EQ(width.text(), "80");
+    EXPECT_TRUE(new_segment.isChecked());
+
+    project = Largest_project();
+    frame.Refresh_VTP_List();
+    Click_map(5000, 6000, 1);
+    EXPECT_EQ(project.VTPCount, 999);
+    EXPECT_TRUE(new_segment.isChecked());
+    EXPECT_EQ(messages.Shown.size(), 2U);
+}
+
+TEST_F(VTPFrameTest, OnlyConfirmedPreferencesGiveTheSaveEntryAState) {
+    QSignalSpy entry(&frame, &VTPFrame::SaveEntry_changed);
+    Click_map(5000, 6000, 1);
+    EXPECT_TRUE(entry.isEmpty());
+    project.PrefsSet = true;
+    Press(list, Qt::Key_Delete);
+    EXPECT_EQ(entry.takeFirst().first().toBool(), false);
+    Add_cleared_cell(project, 1, 2, 8);
+    frame.Refresh_VTP_List();
+    EXPECT_EQ(entry.takeFirst().first().toBool(), true);
+}
+
+TEST_F(VTPFrameTest, TheListKeepsItsPlaceItsSelectionAndTheFocus) {
+    Project largest = Largest_project();
+    largest.VTPCount = 500;
+    project = largest;
+    frame.Refresh_VTP_List();
+    EXPECT_EQ(frame.Selected(), -1);
+    frame.activateWindow();
+    list.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(frame.Selected(), -1);  // focus alone selects nothing
+
+    frame.Select(300);
+    QCoreApplication::processEvents();
+    const int scrolled = list.verticalScrollBar()->value();
+    EXPECT_GT(scrolled, 250);
+    Press(list, Qt::Key_Delete);
+    frame.Refresh_VTP_List();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(frame.Selected(), 299);
+    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+    EXPECT_TRUE(list.hasFocus());
+
+    list.verticalScrollBar()->setValue(10);  // the user looks at something else meanwhile
+    frame.Refresh_VTP_List();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(list.verticalScrollBar()->value(), 10);
+
+    project.VTPCount = 5;
+    frame.Refresh_VTP_List();
+    EXPECT_EQ(frame.Selected(), 4);
+    const QRect last = list.visualRect(list.model()->index(4, 0));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, last.center() + QPoint(0, 60));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, last.center());
+    EXPECT_EQ(frame.Selected(), 4);
+}
+
+TEST(DrawingModeFrameTest, EveryChoiceIsAnnouncedEvenOfTheSameMode) {
+    DrawingModeFrame frame;
+    frame.show();
+    std::vector<int> chosen;
+    QObject::connect(&frame, &DrawingModeFrame::Mode_chosen,
+                     [&](const DrawingMode& mode) { chosen.push_back(mode.Code); });
+    auto& combo = Control<QComboBox>(frame, "DrawModeCombo");
+    Press(combo, Qt::Key_Down);
+    Press(combo, Qt::Key_End);
+    EXPECT_EQ(frame.Item(), "Clear existing major roads in LOD13 cell");
+    frame.Select_mode(0);
+    frame.Select_mode(0);
+    EXPECT_THAT(chosen, testing::ElementsAre(1, 32, 0, 0));
+}
+
+}  // namespace
+}  // namespace tidemark
