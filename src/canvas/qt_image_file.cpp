@@ -14,7 +14,7 @@ namespace {
 // picture grey, or whatever the memory held before.
 
 QByteArray Bytes_at(QIODevice& file, qint64 position, qint64 count) {
-    return file.seek(position) ? file.read(count) : QByteArray();
+    return position < file.size() && file.seek(position) ? file.read(count) : QByteArray();
 }
 
 bool Is_whole_BMP(QIODevice& file) {
