@@ -1,4 +1,6 @@
-// The start-up of an empty Qt program with a main window and a tool window.
+// The start-up of an empty Qt program with a main window and a tool window; with an argument, the
+// main window shows that one line, for which Qt has to load its fonts.
+#include <QLabel>
 #include <QMainWindow>
 
 #include "first_paint.h"
@@ -10,6 +12,7 @@ int main(int argc, char** argv) {
     QWidget tool(&window, Qt::Tool);
     window.resize(1000, 800);
     tool.resize(300, 800);
+    if (argc > 1) window.setCentralWidget(new QLabel(argv[1]));
     window.show();
     tool.show();
     return QApplication::exec();

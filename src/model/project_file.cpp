@@ -125,10 +125,7 @@ struct TextCheck {
     std::optional<std::string> Unsavable;
 
     void operator()(const char* name, const std::string& value) {
-        using namespace std::string_view_literals;
-        if (Unsavable) return;
-        if (value.find_first_of("\r\n\0"sv) != value.npos || value.size() > MaxTextLength)
-            Unsavable = name;
+        if (!Unsavable && !Is_savable(value)) Unsavable = name;
     }
 };
 
@@ -155,6 +152,11 @@ std::string Project_bytes(const Project& project, std::string_view saved_on) {
     Visit_project(project, writer);
     lines.Write_line("END OF FILE");
     return lines.Bytes();
+}
+
+bool Is_savable(std::string_view text) {
+    using namespace std::string_view_literals;
+    return text.find_first_of("\r\n\0"sv) == text.npos && text.size() <= MaxTextLength;
 }
 
 std::optional<std::string> Unsavable_text(const Project& project) {

@@ -55,8 +55,11 @@ ProjectFileReading Read_project(std::string_view bytes, Project& project);
 // The project file's bytes. `saved_on` is the date and time of its first line.
 std::string Project_bytes(const Project& project, std::string_view saved_on);
 
-// The name of the first text that cannot be saved, because it holds a line end or a NUL, which
-// would shift every line after it, or more than MaxTextLength bytes; nothing when all can.
+// Whether a text can stand on a line of its own: it holds no line end and no NUL, which would shift
+// every line after it, and MaxTextLength bytes at most.
+bool Is_savable(std::string_view text);
+
+// The name of the first text that cannot be saved; nothing when all can.
 std::optional<std::string> Unsavable_text(const Project& project);
 
 }  // namespace tidemark

@@ -31,6 +31,19 @@ class Files {
 
     virtual bool Exists(const std::string& path) = 0;
 
+    // The file of that path, or of one whose last part differs from it only in the case of its
+    // letters A to Z; nothing when there is none.
+    virtual std::optional<std::string> Find(const std::string& path) = 0;
+
+    // The path from the root of the file system on; a path that is full already stays as it is.
+    virtual std::string Full_path(const std::string& path) = 0;
+
+    // Bytes; nothing when there is no such file.
+    virtual std::optional<std::uintmax_t> Size(const std::string& path) = 0;
+
+    // Removes a file, never a folder.
+    virtual FileResult Delete(const std::string& path) = 0;
+
     // Reads a regular file whole into `bytes`. Refuses anything else (a folder, a pipe, a device)
     // and any file of more than `limit` bytes, without waiting and without reading them.
     virtual FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) = 0;
@@ -45,6 +58,10 @@ class DiskFiles : public Files {
   public:
     DiskFiles();
     bool Exists(const std::string& path) override;
+    std::optional<std::string> Find(const std::string& path) override;
+    std::string Full_path(const std::string& path) override;
+    std::optional<std::uintmax_t> Size(const std::string& path) override;
+    FileResult Delete(const std::string& path) override;
     FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) override;
     FileResult Replace(const std::string& path, std::string_view bytes) override;
 };

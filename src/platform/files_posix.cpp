@@ -1,4 +1,5 @@
 // The machine's file system by way of POSIX calls.
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "platform/posix_descriptor.h"
 
 namespace tidemark {
 
@@ -23,24 +25,6 @@ FileResult Failed(int error) {
     return FileResult::Failed(Error_text(error));
 }
 
-// An open file that closes itself.
-class File {
-  public:
-    explicit File(int descriptor) : descriptor_(descriptor) {}
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
-    ~File() {
-        if (descriptor_ >= 0) ::close(descriptor_);
-    }
-
-    bool Is_open() const { return descriptor_ >= 0; }
-    int Descriptor() const { return descriptor_; }
-    int Close() { return ::close(std::exchange(descriptor_, -1)); }
-
-  private:
-    int descriptor_;
-};
-
 // Where `path` leads through symbolic links, so that replacing it replaces the file itself.
 std::string Link_target(const std::string& path) {
     std::error_code error;
@@ -51,6 +35,11 @@ std::string Link_target(const std::string& path) {
 std::string Folder_of(const std::string& path) {
     const auto slash = path.rfind('/');
     return slash == path.npos ? "./" : path.substr(0, slash + 1);
+}
+
+bool Differ_only_in_case(std::string_view a, std::string_view b) {
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c; };
+    return std::ranges::equal(a, b, {}, lower, lower);
 }
 
 // The name of a new file beside `path` that removes itself unless it has been renamed over it.
@@ -64,7 +53,7 @@ class TemporaryFile {
         if (file_was_made_ && !renamed_) ::unlink(name_.c_str());
     }
 
-    File& Opened() { return file_; }
+    Descriptor& Opened() { return file_; }
     bool Rename_over(const std::string& path) {
         renamed_ = ::rename(name_.c_str(), path.c_str()) == 0;
         return renamed_;
@@ -72,7 +61,7 @@ class TemporaryFile {
 
   private:
     std::string name_;
-    File file_;
+    Descriptor file_;
     bool file_was_made_ = file_.Is_open();
     bool renamed_ = false;
 };
@@ -99,8 +88,8 @@ bool Write_all(int descriptor, std::string_view bytes) {
 // The rename itself has to reach the disk too; a file system that cannot flush a folder is not a
 // reason to call the save failed.
 void Flush_folder(const std::string& path) {
-    const File folder(::open(Folder_of(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (folder.Is_open()) ::fsync(folder.Descriptor());
+    const Descriptor folder(::open(Folder_of(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.Is_open()) ::fsync(folder.Number());
 }
 
 }  // namespace
@@ -115,10 +104,40 @@ bool DiskFiles::Exists(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0;
 }
 
-FileResult DiskFiles::Read(const std::string& path, std::uintmax_t limit, std::string& bytes) {
-    const File file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+std::optional<std::string> DiskFiles::Find(const std::string& path) {
+    if (Exists(path)) return path;
+    const std::string name = std::filesystem::path(path).filename().string();
+    std::optional<std::string> found;  // the first in the alphabet, should there be several
+    std::error_code unreadable;
+    for (const auto& entry : std::filesystem::directory_iterator(Folder_of(path), unreadable)) {
+        const std::string candidate = entry.path().filename().string();
+        if (Differ_only_in_case(candidate, name) && (!found || candidate < *found))
+            found = candidate;
+    }
+    if (found) found->insert(0, path, 0, path.size() - name.size());
+    return found;
+}
+
+std::string DiskFiles::Full_path(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path full = std::filesystem::absolute(path, error);
+    return error ? path : full.string();
+}
+
+std::optional<std::uintmax_t> DiskFiles::Size(const std::string& path) {
     struct stat status {};
-    if (!file.Is_open() || ::fstat(file.Descriptor(), &status) != 0) return Failed(errno);
+    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+    return static_cast<std::uintmax_t>(status.st_size);
+}
+
+FileResult DiskFiles::Delete(const std::string& path) {
+    return ::unlink(path.c_str()) == 0 ? FileResult::Done() : Failed(errno);
+}
+
+FileResult DiskFiles::Read(const std::string& path, std::uintmax_t limit, std::string& bytes) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status {};
+    if (!file.Is_open() || ::fstat(file.Number(), &status) != 0) return Failed(errno);
     if (S_ISDIR(status.st_mode)) return Failed(EISDIR);
     if (!S_ISREG(status.st_mode)) return FileResult::Failed("Not a regular file");
     if (static_cast<std::uintmax_t>(status.st_size) > limit) return Failed(EFBIG);
@@ -126,8 +145,7 @@ FileResult DiskFiles::Read(const std::string& path, std::uintmax_t limit, std::s
     std::string content(static_cast<std::size_t>(status.st_size), '\0');
     std::size_t length = 0;
     while (length < content.size()) {
-        const ssize_t got =
-            ::read(file.Descriptor(), content.data() + length, content.size() - length);
+        const ssize_t got = ::read(file.Number(), content.data() + length, content.size() - length);
         if (got < 0 && errno == EINTR) continue;
         if (got < 0) return Failed(errno);
         if (got == 0) break;
@@ -147,10 +165,10 @@ FileResult DiskFiles::Replace(const std::string& path, std::string_view bytes) {
     if (Exists(target) && ::access(target.c_str(), W_OK) != 0) return Failed(errno);
 
     TemporaryFile temporary(target);
-    File& file = temporary.Opened();
-    if (!file.Is_open() || !Write_all(file.Descriptor(), bytes) ||
-        ::fchmod(file.Descriptor(), Permissions_for(target)) != 0 ||
-        ::fsync(file.Descriptor()) != 0 || file.Close() != 0 || !temporary.Rename_over(target))
+    Descriptor& file = temporary.Opened();
+    if (!file.Is_open() || !Write_all(file.Number(), bytes) ||
+        ::fchmod(file.Number(), Permissions_for(target)) != 0 || ::fsync(file.Number()) != 0 ||
+        file.Close() != 0 || !temporary.Rename_over(target))
         return Failed(errno);
     Flush_folder(target);
     return FileResult::Done();

@@ -1,0 +1,24 @@
+// The file that the scenery compiler makes of an assembler file.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/files.h"
+#include "platform/patience.h"
+#include "platform/programs.h"
+
+namespace tidemark {
+
+// The compiled file of `assembler_file` as it is there now, whatever the case of its name; nothing
+// when there is none. Never the assembler file itself, whose name may differ in nothing else.
+std::optional<std::string> Find_compiled_file(const std::string& assembler_file, Files& files);
+
+// Waits until the compiled file is complete, and gives up when nothing more is to be expected (see
+// after_save.h for how long that takes). `compiler` is the compiler that was started, null when
+// none was: then what is there is complete.
+std::optional<std::string> Await_compiled_file(const std::string& assembler_file,
+                                               RunningProgram* compiler, Files& files,
+                                               Patience& patience);
+
+}  // namespace tidemark

@@ -1,0 +1,63 @@
+#include "output/help.h"
+
+#include <filesystem>
+
+namespace tidemark {
+
+namespace {
+
+constexpr std::string_view about_text =
+    "Tidemark ( V 1.1 - 27th January 2003 )\n"
+    "\n"
+    "Written by the Tidemark developers, 2026\n"
+    "\n"
+    "Tidemark is a GUI-based editor for coastlines, roads etc. in Flight Simulator 2002;\n"
+    "VTP coastlines / roads and LWM polygons can be easily drawn, and scenery compiled for "
+    "FS2002.\n"
+    "\n"
+    "See Instructions and Tutorial for information on using Tidemark\n"
+    "\n"
+    "Please e-mail any comments or bug reports to:\n"
+    "     bugs@tidemark.example";
+
+bool Is_letter_or_digit(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+}
+
+}  // namespace
+
+std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Files& files) {
+    const std::string below = "/Documentation/" + std::string(document.File);
+    const std::string current = places.CurrentFolder + below;
+    const std::string installed =
+        std::filesystem::path(places.ProgramFolder + "/../share/doc/tidemark" + below)
+            .lexically_normal()
+            .string();
+    return !files.Exists(current) && files.Exists(installed) ? installed : current;
+}
+
+std::string File_address(std::string_view path) {
+    constexpr std::string_view hex = "0123456789ABCDEF";
+    const std::string_view as_is = path.starts_with('/') ? "/-._~:" : "/-._~:\\";
+    std::string address = "file://";
+    for (const char c : path) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (Is_letter_or_digit(c) || as_is.find(c) != as_is.npos)
+            address += c;
+        else
+            ((address += '%') += hex[byte / 16]) += hex[byte % 16];
+    }
+    return address;
+}
+
+void Show_help(const HelpDocument& document, const HelpPlaces& places, Messages& messages,
+               Files& files, Programs& programs) {
+    if (!programs.Show(File_address(Find_help(document, places, files))))
+        Warn(messages, document.Warning);
+}
+
+void Show_about(Messages& messages) {
+    Inform(messages, "About Tidemark", about_text);
+}
+
+}  // namespace tidemark

@@ -1,0 +1,50 @@
+// Help > Instructions, Tutorial and About.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/files.h"
+#include "platform/messages.h"
+#include "platform/programs.h"
+
+namespace tidemark {
+
+// One of the documents, and what the user is told when no browser can be started.
+struct HelpDocument {
+    std::string_view File;
+    std::string_view Warning;
+};
+
+inline constexpr HelpDocument InstructionsDocument{
+    "Instructions.html",
+    "External program Internet Explorer not found!\n"
+    "Please open the file INSTRUCTIONS.HTML with your web browser manually!"};
+inline constexpr HelpDocument TutorialDocument{
+    "Tutorial.html",
+    "External program Internet Explorer not found!\n"
+    "Please open the file TUTORIAL.HTML with your web browser manually!"};
+
+// The folders that the documents are looked for from.
+struct HelpPlaces {
+    std::string CurrentFolder;  // the documents lie in "Documentation" below it
+    std::string ProgramFolder;  // of the program itself: an installed copy has its documents in
+                                // "../share/doc/tidemark/Documentation" from there
+};
+
+// The document's path: below the current folder, or, when it is not there, the installed one. When
+// it is nowhere, the path below the current folder.
+std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Files& files);
+
+// "file://" and the path, with every byte that an address cannot carry as it is written %20 and the
+// like. The separators stay as they are, and so does the "\" of a path with a drive letter.
+std::string File_address(std::string_view path);
+
+// Shows the document in the web browser; warns when none can be started.
+void Show_help(const HelpDocument& document, const HelpPlaces& places, Messages& messages,
+               Files& files, Programs& programs);
+
+// The About box.
+void Show_about(Messages& messages);
+
+}  // namespace tidemark

@@ -1,0 +1,47 @@
+// The Output Preferences dialog without its window.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "model/project.h"
+#include "platform/platform.h"
+
+namespace tidemark {
+
+// What the dialog's controls hold, each under its control's name.
+struct OutputPreferences {
+    std::string RootText;  // the filename root
+    std::string FSname;    // the folder that compiled files are copied to
+    bool FScopy = false;   // copy them; only then FSname and its Browse button are enabled
+    bool Check1 = false;   // LWM: open in the editor after saving
+    bool Check2 = false;   // LWM: compile after saving
+    bool Check3 = false;   // VTP: open
+    bool Check4 = false;   // VTP: compile
+
+    bool operator==(const OutputPreferences&) const = default;
+};
+
+// What the dialog shows when it opens.
+OutputPreferences Shown_preferences(const Project& project);
+
+// Whether OK may close the dialog; says with a warning why not: a root without a ".", or a name
+// that cannot stand in a project file.
+bool Check_preferences(const OutputPreferences& preferences, Messages& messages);
+
+// Confirms checked preferences: the project takes them over with the two file names, and counts as
+// changed whatever they were before.
+void Store_preferences(const OutputPreferences& preferences, Project& project);
+
+// The file choosers behind the two Browse buttons, as they are when the dialog opens. They keep the
+// last choice.
+FileChooser BrowseDialog();
+FileChooser FSBrowseDialog();
+
+// What a Browse button puts into its text box: the chosen file as the root, or the folder of the
+// chosen file with its last separator. Nothing when the user cancels, or when the path cannot stand
+// in a project file (Warn).
+std::optional<std::string> Browse_root(FileChooser& dialog, Platform& platform);
+std::optional<std::string> Browse_folder(FileChooser& dialog, Platform& platform);
+
+}  // namespace tidemark

@@ -1,0 +1,52 @@
+// Other programs, as the rules ask for them. A program is started with a list of arguments that
+// reach it as they are, blanks and quotes included: there is no shell in between.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tidemark {
+
+struct Command {
+    std::string Program;  // a path, or a bare name to be looked for where programs are
+    std::vector<std::string> Arguments;
+    std::string Folder;  // to start it in; empty: the current folder
+
+    bool operator==(const Command&) const = default;
+};
+
+// A program that has been started. It goes on by itself when this is forgotten.
+class RunningProgram {
+  public:
+    virtual ~RunningProgram() = default;
+
+    virtual bool Has_ended() = 0;
+};
+
+struct ProgramStart {
+    std::unique_ptr<RunningProgram> Program;  // null when it could not be started
+    std::string Advice;  // then what the user can do about it, where the system knows that
+};
+
+class Programs {
+  public:
+    virtual ~Programs() = default;
+
+    // Starts a program without waiting for it.
+    virtual ProgramStart Start(const Command& command) = 0;
+
+    // Shows a document, given by its full path or its address, in the program that the desktop has
+    // for it. False when that cannot be started.
+    virtual bool Show(const std::string& document) = 0;
+};
+
+// The machine's own programs. What is made for Windows and cannot be executed as it is goes through
+// wine, where that is installed.
+class SystemPrograms : public Programs {
+  public:
+    ProgramStart Start(const Command& command) override;
+    bool Show(const std::string& document) override;
+};
+
+}  // namespace tidemark
