@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
+#include <cstddef>
 #include <stdexcept>
 
 namespace tidemark {

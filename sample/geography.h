@@ -27,6 +27,9 @@ inline constexpr double NorthLatitude = 90 - SampleLOD8Y * LOD8DegreesSouth;
 inline constexpr int AreaSize = (LastLOD13 + 1) * CellSizeVTP;
 inline constexpr int LastVTP = FirstVTP + AreaSize - 1;
 
+// Width and height of the background picture, which shows the whole cell.
+inline constexpr int PictureSize = 2048;
+
 // Parts of the cell, 0..1 from its west and from its north edge.
 inline std::array<double, 2> Part_of_cell(GeoPoint point) {
     return {(point.Longitude - WestLongitude) / LOD8DegreesEast,

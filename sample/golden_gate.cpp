@@ -97,7 +97,7 @@ const std::vector<DrawnLine>& Roads_and_streams() {
         // Interstate 80 over the Bay Bridge and Yerba Buena Island
         {TwoLanes,
          8,
-         {{-122.4055, 37.7690},
+         {{-122.4055, 37.7640},
           {-122.3985, 37.7795},
           {-122.3905, 37.7870},
           {-122.3680, 37.8100},

@@ -5,12 +5,14 @@
 #include <stdexcept>
 #include <string>
 
+#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "map_painter.h"
 #include "model/project_file.h"
 #include "platform/files.h"
 #include "sample_project.h"
@@ -42,6 +44,14 @@ void Write(const std::string& path, std::string_view bytes) {
     if (!written) throw std::runtime_error(path + ": " + written.Reason());
 }
 
+std::string JPEG_bytes(const QImage& picture) {
+    constexpr int quality = 90;
+    QBuffer buffer;
+    if (!picture.save(&buffer, "JPG", quality))
+        throw std::runtime_error("The picture cannot be made a JPEG.");
+    return buffer.data().toStdString();
+}
+
 }  // namespace
 
 }  // namespace tidemark
@@ -52,10 +62,13 @@ int main(int argc, char** argv) {
         std::fputs("Usage: make-sample COASTLINE.geojson FOLDER\n", stderr);
         return 2;
     }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
     try {
         const std::vector<GeoLine> coast = Read_coast(QString::fromLocal8Bit(argv[1]));
         const std::string folder = argv[2];
         Write(folder + "/golden-gate.TDM", Project_bytes(*Sample_project(coast), SavedOn));
+        Write(folder + "/golden-gate.jpg", JPEG_bytes(Painted_map(coast)));
     } catch (const std::exception& error) {
         std::fprintf(stderr, "make-sample: %s\n", error.what());
         return 1;

@@ -9,9 +9,6 @@
 
 namespace tidemark {
 
-// Width and height of the background picture.
-inline constexpr int PictureSize = 2048;
-
 // `coast` holds the mainland's coastlines, each running from the map's edge to the map's edge.
 // Throws std::runtime_error for one that does not, and std::out_of_range when the project's tables
 // are too small for the whole.

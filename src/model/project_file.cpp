@@ -24,10 +24,11 @@ class LineReader {
     std::string_view Read_line() {
         if (BufferPos >= FileBuffer.size() && ended_at_ == 0) ended_at_ = line_ + 1;
         ++line_;
-        const std::string_view rest = FileBuffer.substr(BufferPos);
-        const std::size_t length = std::min(rest.find('\n'), rest.size());
-        BufferPos += std::min(length + 1, rest.size());
-        return Without_CR(rest.substr(0, length));
+        const std::size_t start = BufferPos;
+        while (BufferPos < FileBuffer.size() && FileBuffer[BufferPos] != '\n') ++BufferPos;
+        const std::string_view line = FileBuffer.substr(start, BufferPos - start);
+        if (BufferPos < FileBuffer.size()) ++BufferPos;
+        return Without_CR(line);
     }
 
     int Line() const { return line_; }          // the line read last, from 1
@@ -35,8 +36,9 @@ class LineReader {
 
   private:
     std::string_view Without_CR(std::string_view line) {
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        if (line.find('\r') == line.npos) return line;
+        const std::size_t first = line.find('\r');
+        if (first == line.npos) return line;
+        if (first + 1 == line.size()) return line.substr(0, first);
         kept_ = line;
         std::erase(kept_, '\r');
         return kept_;

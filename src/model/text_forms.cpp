@@ -43,7 +43,10 @@ std::string Int_text(Int16 value) {
 }
 
 std::string Blank_text(Int16 value) {
-    return value < 0 ? Int_text(value) : " " + Int_text(value);
+    std::array<char, 8> text{' '};
+    char* const start = value < 0 ? text.data() : text.data() + 1;
+    const char* const end = std::to_chars(start, text.data() + text.size(), int{value}).ptr;
+    return {text.data(), static_cast<std::size_t>(end - text.data())};
 }
 
 std::string Blank_text(float value) {

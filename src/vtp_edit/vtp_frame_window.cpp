@@ -72,15 +72,15 @@ void VTPFrame::Start_new_segment() {
     NewSegment_->setChecked(true);
 }
 
-std::optional<Int16> VTPFrame::Take_width() {
+std::optional<Int16> VTPFrame::Typed_width() {
     std::string text = From_qt(VTPwidthText_->text());
-    const std::optional<Int16> width = tidemark::Take_width(text, messages_);
+    const std::optional<Int16> width = Take_width(text, messages_);
     VTPwidthText_->setText(To_qt(text));
     return width;
 }
 
 void VTPFrame::Add_VTP_Point() {
-    const std::optional<Int16> width = Take_width();
+    const std::optional<Int16> width = Typed_width();
     if (!width) return;
     const NextPoint next{Selected(), NewSegment_->isChecked(), *width};
     const std::optional<int> added = tidemark::Add_VTP_Point(project_, next, messages_);
@@ -109,7 +109,7 @@ void VTPFrame::VTPlistbox_KeyDown(int key_code) {
 }
 
 void VTPFrame::ChangeButton_Click() {
-    const std::optional<Int16> width = Take_width();
+    const std::optional<Int16> width = Typed_width();
     if (!width || Selected() < 0) return;
     Change_segment_width(project_, Selected() + 1, *width);
     Refresh_VTP_List();

@@ -43,7 +43,7 @@ class VTPFrame : public QGroupBox {
 
   private:
     void Lay_out();
-    std::optional<Int16> Take_width();
+    std::optional<Int16> Typed_width();
     void Show_points(int selected);
 
     Project& project_;

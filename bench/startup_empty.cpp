@@ -1,0 +1,19 @@
+// The start-up of an empty Qt program with a main window and a tool window; with an argument, the
+// main window shows that one line, for which Qt has to load its fonts.
+#include <QLabel>
+#include <QMainWindow>
+
+#include "first_paint.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    const tidemark::FirstPaint first_paint(application);
+    QMainWindow window;
+    QWidget tool(&window, Qt::Tool);
+    window.resize(1000, 800);
+    tool.resize(300, 800);
+    if (argc > 1) window.setCentralWidget(new QLabel(argv[1]));
+    window.show();
+    tool.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,33 @@
+// Prints benchmarks as one Markdown table, each figure beside its baselines.
+//
+// A benchmark's name is "what is measured|whose": of the names that share the first part, the one
+// registered first is the program's own figure and the others are its baselines. A limit stands in
+// brackets at the end of the first part: "reading the project [3x]", "an ordinary cell [5 us]".
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+namespace tidemark {
+
+class TableReporter : public benchmark::BenchmarkReporter {
+  public:
+    bool ReportContext(const Context& context) override;
+    void ReportRuns(const std::vector<Run>& runs) override;
+    void Finalize() override;
+
+  private:
+    struct Figure {
+        std::string What, Whose;
+        double Microseconds;
+    };
+
+    std::vector<Figure> figures_;
+};
+
+// Runs all benchmarks of the program, several times each, and prints the table of their medians.
+int Run_benchmarks(int argc, char** argv);
+
+}  // namespace tidemark

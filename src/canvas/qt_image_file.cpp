@@ -1,0 +1,135 @@
+#include "canvas/qt_image_file.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QImageReader>
+#include <QtEndian>
+
+namespace tidemark {
+
+namespace {
+
+// A file that ends early is refused, which Qt's readers do not do: they would leave the rest of the
+// picture grey, or whatever the memory held before.
+
+QByteArray Bytes_at(QIODevice& file, qint64 position, qint64 count) {
+    return file.seek(position) ? file.read(count) : QByteArray();
+}
+
+bool Is_whole_BMP(QIODevice& file) {
+    const QByteArray header = Bytes_at(file, 0, 38);
+    if (header.size() < 38) return false;
+    const auto long_at = [&](int at) {
+        return qint64{qFromLittleEndian<qint32>(&header.data()[at])};
+    };
+    const auto word_at = [&](int at) {
+        return qint64{qFromLittleEndian<quint16>(&header.data()[at])};
+    };
+    constexpr qint64 core_header = 12;
+    constexpr qint64 run_lengths_8 = 1, run_lengths_4 = 2;
+
+    const bool is_core = long_at(14) == core_header;
+    const qint64 width = is_core ? word_at(18) : long_at(18);
+    const qint64 height = qAbs(is_core ? word_at(20) : long_at(22));
+    const qint64 bits = is_core ? word_at(24) : word_at(28);
+    const qint64 compression = is_core ? 0 : long_at(30);
+    const bool is_packed = compression == run_lengths_8 || compression == run_lengths_4;
+    const qint64 data_size = is_packed ? long_at(34) : (width * bits + 31) / 32 * 4 * height;
+    return long_at(10) + data_size <= file.size();
+}
+
+// Skips a GIF's sub-blocks up to and with the empty one that ends them.
+bool Skip_sub_blocks(QIODevice& file) {
+    for (char length = 0; file.getChar(&length);) {
+        if (length == 0) return true;
+        const auto count = static_cast<quint8>(length);
+        if (file.skip(count) != count) return false;
+    }
+    return false;
+}
+
+// Skips a GIF's colour table, if its flags announce one.
+bool Skip_colours(QIODevice& file, char flags) {
+    constexpr int announced = 0x80;
+    if (!(flags & announced)) return true;
+    const int size = 3 << ((flags & 7) + 1);
+    return file.skip(size) == size;
+}
+
+// Whether the first picture is all there; what follows it is not used.
+bool Is_whole_GIF(QIODevice& file) {
+    constexpr char extension = 0x21, picture = 0x2C;
+    const QByteArray screen = Bytes_at(file, 0, 13);
+    if (screen.size() < 13 || !Skip_colours(file, screen[10])) return false;
+    char kind = 0;
+    while (file.getChar(&kind) && kind == extension)
+        if (file.skip(1) != 1 || !Skip_sub_blocks(file)) return false;
+    if (kind != picture) return false;
+    const QByteArray description = file.read(9);
+    return description.size() == 9 && Skip_colours(file, description[8]) && file.skip(1) == 1 &&
+           Skip_sub_blocks(file);
+}
+
+// Where the pixels of a JPEG begin; nothing that comes before, such as a preview, counts. -1 when
+// the file has none.
+qint64 JPEG_scan(QIODevice& file) {
+    constexpr quint8 marker = 0xFF, start_of_scan = 0xDA;
+    for (qint64 position = 2;;) {
+        const QByteArray segment = Bytes_at(file, position, 4);
+        if (segment.size() < 4 || static_cast<quint8>(segment[0]) != marker) return -1;
+        if (static_cast<quint8>(segment[1]) == marker) {  // a fill byte
+            ++position;
+            continue;
+        }
+        if (static_cast<quint8>(segment[1]) == start_of_scan) return position;
+        position += 2 + qFromBigEndian<quint16>(&segment.data()[2]);
+    }
+}
+
+// Whether the end mark is there. It is looked for from the end, since that is where it is.
+bool Is_whole_JPEG(QIODevice& file) {
+    static const QByteArray end_mark("\xFF\xD9");
+    constexpr qint64 step = 1 << 16;
+    const qint64 scan = JPEG_scan(file);
+    if (scan < 0) return false;
+    for (qint64 end = file.size(); end > scan; end -= step) {
+        const qint64 begin = std::max(scan, end - step);
+        if (Bytes_at(file, begin, end - begin + 1).contains(end_mark)) return true;
+    }
+    return false;
+}
+
+struct ImageKind {
+    const char* Format;  // as Qt names it
+    QByteArrayView Signature;
+    bool (*Is_whole)(QIODevice&);
+};
+
+constexpr std::array<ImageKind, 3> ImageKinds{{
+    {"bmp", "BM", Is_whole_BMP},
+    {"gif", "GIF8", Is_whole_GIF},
+    {"jpeg", "\xFF\xD8\xFF", Is_whole_JPEG},
+}};
+
+}  // namespace
+
+QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
+    const QByteArray begin = Bytes_at(file, 0, 4);
+    const auto kind = std::ranges::find_if(
+        ImageKinds, [&](const ImageKind& k) { return begin.startsWith(k.Signature); });
+    if (kind == ImageKinds.end() || !kind->Is_whole(file) || !file.seek(0)) return {};
+
+    QImageReader::setAllocationLimit(0);  // the size is judged here
+    QImageReader reader(&file, kind->Format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(false);
+    const QSize claimed = reader.size();
+    if (claimed.isEmpty() || !fits(claimed)) return {};
+    QImage image = reader.read();
+    if (image.isNull() || !fits(image.size())) return {};
+    image.setDevicePixelRatio(1);  // a name such as "map@2x.bmp" would make it another
+    return image;
+}
+
+}  // namespace tidemark

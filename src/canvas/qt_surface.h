@@ -1,0 +1,54 @@
+// The drawing surface on the screen: keeps what was drawn and paints the part that is exposed.
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QLineF>
+#include <QPainter>
+#include <QPen>
+
+#include "platform/drawing_surface.h"
+
+namespace tidemark {
+
+// Canvas pixels are the painter's units. What is drawn is kept as a list, not as pixels, so its
+// size follows the drawing and not the image. Positions that are no finite numbers are left out.
+class QtSurface : public DrawingSurface {
+  public:
+    // `changed` is called at the first operation after each Paint, not at every one.
+    explicit QtSurface(std::function<void()> changed);
+
+    void Erase() override;
+    void Pen_width(int pixels) override;
+    void Pen_colour(Colour colour) override;
+    void Line(CanvasPoint from, CanvasPoint to) override;
+    void Circle(CanvasPoint centre, double radius, Colour colour) override;
+
+    // Paints the drawings that may touch `exposed`, in the order in which they were drawn. The
+    // caller clips.
+    void Paint(QPainter& painter, const QRect& exposed);
+
+  private:
+    // Neighbours in the list that are painted together: lines of one pen, or one circle (its only
+    // line is then a radius).
+    struct Batch {
+        QPen Pen;
+        bool IsCircle;
+        int First, Count;                 // of lines_
+        double Left, Top, Right, Bottom;  // of everything that the batch paints
+    };
+
+    void Add(const QLineF& line, double reach, Batch& batch);
+    void Start_batch(const QPen& pen, bool is_circle);
+    void Announce_change();
+
+    std::vector<QLineF> lines_;
+    std::vector<Batch> batches_;
+    QPen pen_;
+    bool pen_is_new_ = true;  // the last batch is not in the current pen
+    bool announced_ = false;
+    std::function<void()> changed_;
+};
+
+}  // namespace tidemark
