@@ -1,0 +1,21 @@
+// What the Status panel's list of LWM polygons shows, and what deleting from it does.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/project.h"
+
+namespace tidemark {
+
+// Takes the last point from every polygon in which it repeats the first, as every list refresh
+// does. A polygon without points stays so.
+void Drop_closing_points(Project& project);
+
+// One line to a polygon, in order: "[ 12, 7 ] Water, conforms" or "[ 3, 30 ] Land @ 150m".
+std::vector<std::string> LWM_list_lines(const Project& project);
+
+// The polygons after it move down by one. Does not set DataChanged.
+void Delete_LWM_Poly(Project& project, int polygon);
+
+}  // namespace tidemark

@@ -1,0 +1,42 @@
+// Builds the LWM polygon of one cell around a click.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "lwm/cell_edges.h"
+#include "model/project.h"
+#include "platform/messages.h"
+
+namespace tidemark {
+
+enum class HeightChoice { Explicit, Conform };
+
+struct LWMPolyResult {
+    std::string HeightText;  // as the height box reads afterwards
+    bool Added = false;
+    std::string StatusLine;  // a quiet remark on the polygon that was added; empty: none
+};
+
+// Cuts the cursor's cell along its coastlines and appends the piece around the click as a polygon
+// of type DrawMode. Of the project it reads the VTP points, the cell and click of the cursor, and
+// DrawMode. Everything that stands in the way is said in a message, and then nothing is appended.
+//
+// An explicit height is rounded to whole metres (halves to the even neighbour, 0 without a leading
+// number) and refused outside 0..10000; one that does not fit 16 bits stays in the box as it was
+// typed. A polygon that conforms to the terrain leaves the height text alone.
+//
+// Throws Overflow, before anything is appended, for points too far away for 16-bit arithmetic.
+LWMPolyResult Add_LWM_Poly(Project& project, Messages& messages, HeightChoice choice,
+                           std::string height_text);
+
+// The candidate that surrounds the click best, numbered from 1: the only one, or of those whose
+// bounding box has the click strictly inside it the one whose vertices are nearest in the mean, and
+// the first of equals. Nothing when no box has the click inside.
+std::optional<int> Best_candidate(const std::vector<Outline>& candidates, CellPoint click);
+
+// Inside the outline, or on it.
+bool Surrounds(const Outline& outline, CellPoint place);
+
+}  // namespace tidemark
