@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "platform/qt_active_window.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -25,6 +26,7 @@ QMessageBox::Icon Qt_icon(MessageIcon icon) {
 
 MessageAnswer QtMessages::Show(const Message& message) {
     const bool question = message.Buttons == MessageButtons::YesNo;
+    const ActiveWindow active_window;
     QWidget* const in_use = QApplication::activeModalWidget();
     QMessageBox box(Qt_icon(message.Icon), To_qt(message.Title), To_qt(message.Text),
                     question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,

@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "platform/qt_active_window.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -83,6 +84,7 @@ bool EditPoint::Edit(int point) {
     QLineEdit* const first = Option1_->isChecked() ? VTPX_ : LOD13X_;
     first->setFocus();
     first->selectAll();
+    const ActiveWindow active_window;
     if (exec() != QDialog::Accepted) return false;
     Store_edit_point(project_, point, Texts());
     return true;

@@ -87,6 +87,25 @@ TEST_F(MainWindowTest, ThePanelStandsBesideTheMapAndCanBeHiddenAndShown) {
     EXPECT_TRUE(window_.isVisible());
 }
 
+TEST_F(MainWindowTest, TheDialogsOfThePanelLeadBackToIt) {
+    window_.Open(Write_project("river.tdm"));
+    auto& panel = Control<Status>(window_, "Status");
+    auto& list = Control<ListBox>(panel, "VTPlistbox");
+    Press(list, Qt::Key_Down);
+    list.setFocus();
+    panel.activateWindow();
+    QApplication::processEvents();
+    plan_.Then([](QWidget& dialog) { Press(dialog, Qt::Key_Escape); }).Then_answer();
+    Control<QPushButton>(panel, "EditButton").click();
+    QApplication::processEvents();
+    EXPECT_TRUE(list.hasFocus());
+    Control<QLineEdit>(panel, "VTPwidthText").setText("999");
+    Control<QPushButton>(panel, "ChangeButton").click();
+    QApplication::processEvents();
+    EXPECT_TRUE(list.hasFocus());
+    EXPECT_NO_THROW(plan_.Finish());
+}
+
 TEST_F(MainWindowTest, AProjectIsOpenedItsVTPFileSavedAndItSavedUnderANewName) {
     const QString path = Write_project("river one.tdm");
     const QString copy = QString::fromStdString(folder_ / "copy");
