@@ -54,7 +54,7 @@ class RandomAnswers : public QObject {
         if (random_.One_in(8))
             Press(box, Qt::Key_Escape);
         else
-            Click(*buttons[random_.Number(0, static_cast<int>(buttons.size()) - 1)]);
+            Click(*random_.One_of(buttons));
     }
 
     void Answer_edit_point(QDialog& dialog) {
@@ -81,7 +81,7 @@ class RandomAnswers : public QObject {
                                 folder_ + "/no such folder/three.asm", ""};
         for (const char* check : {"Check2", "Check4", "FScopy"})
             if (random_.One_in(2)) Click(Control<QCheckBox>(dialog, check));
-        Control<QLineEdit>(dialog, "RootText").setText(roots[random_.Number(0, 4)]);
+        Control<QLineEdit>(dialog, "RootText").setText(random_.One_of(roots));
         Control<QLineEdit>(dialog, "FSname").setText(folder_);
         Click(Control<QPushButton>(dialog, "OKbutton"));
         if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
@@ -105,9 +105,10 @@ class RandomAnswers : public QObject {
     }
 
     void Answer_calculator(QDialog& dialog) {
-        const QStringList texts{"37:49:12.5", "8:60:60", "5:7", "91:00:00", "::"};
-        Control<QLineEdit>(dialog, "CalcLatText").setText(texts[random_.Number(0, 4)]);
-        Control<QLineEdit>(dialog, "CalcLonText").setText(texts[random_.Number(0, 1)]);
+        const QStringList latitudes{"37:49:12.5", "8:60:60", "5:7", "91:00:00", "::"};
+        const QStringList longitudes{"122:28:42", "000:07:00.0"};
+        Control<QLineEdit>(dialog, "CalcLatText").setText(random_.One_of(latitudes));
+        Control<QLineEdit>(dialog, "CalcLonText").setText(random_.One_of(longitudes));
         Click(Control<QPushButton>(dialog, "CalcButton"));
         if (dialog.isVisible()) Click(Control<QPushButton>(dialog, "CancelButton"));
     }
@@ -118,13 +119,13 @@ class RandomAnswers : public QObject {
                                             : QStringList{"a.TDM", "b.TDM", "c"};
         if (random_.One_in(4)) return Press(dialog, Qt::Key_Escape);
         auto& name = Control<QLineEdit>(dialog, "fileNameEdit");
-        name.setText(folder_ + "/" + names[random_.Number(0, 2)]);
+        name.setText(folder_ + "/" + random_.One_of(names));
         Press(name, Qt::Key_Enter);
     }
 
     QString Some_number() {
         const QStringList numbers{"", "x", "0", "255", "256", "-1", "70000", "1e99", " 12.5 "};
-        return numbers[random_.Number(0, static_cast<int>(numbers.size()) - 1)];
+        return random_.One_of(numbers);
     }
 
     RandomNumbers& random_;

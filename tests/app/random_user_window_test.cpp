@@ -108,7 +108,7 @@ class RandomUser {
 
     QPoint Some_place();
     void Point_at(QPoint place);
-    ListBox& Some_list() { return *lists_[static_cast<std::size_t>(random_.Number(0, 2))]; }
+    ListBox& Some_list() { return *random_.One_of(lists_); }
     int Count_in(const ListBox& list) const { return static_cast<int>(list.Lines().size()); }
 
     void Click_map();
