@@ -172,8 +172,9 @@ void TidemarkMain::Open(const QString& path) {
 }
 
 void TidemarkMain::FileSave_Click() {
+    const std::string before = project_->ProjectFile;
     Save_project(*project_, platform_);
-    if (!project_->ProjectFile.empty()) Show_title(project_->ProjectFile);
+    if (project_->ProjectFile != before) Show_title(project_->ProjectFile);
     Refresh_Graphics();
 }
 
