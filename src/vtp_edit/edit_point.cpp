@@ -60,8 +60,8 @@ bool Check_edit_point(const Project& project, const EditPointTexts& texts, Messa
 }
 
 void Store_edit_point(Project& project, int point, const EditPointTexts& texts) {
-    Int16& x = project.VTPPoint(point, 0);
-    Int16& y = project.VTPPoint(point, 1);
+    Int16 x = project.VTPPoint(point, 0);
+    Int16 y = project.VTPPoint(point, 1);
     if (texts.InCell) {
         x = Moved_in_cell(project.AreaLeftVTP, x, texts.LOD13X);
         y = Moved_in_cell(project.AreaTopVTP, y, texts.LOD13Y);
@@ -69,6 +69,8 @@ void Store_edit_point(Project& project, int point, const EditPointTexts& texts) 
         x = Round_half_even(Numeric_value(texts.VTPX));
         y = Round_half_even(Numeric_value(texts.VTPY));
     }
+    project.VTPPoint(point, 0) = x;
+    project.VTPPoint(point, 1) = y;
     project.DataChanged = true;
 }
 
