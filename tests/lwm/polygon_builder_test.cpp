@@ -265,6 +265,12 @@ TEST(PolygonBuilderTest, TablesThatWereNotRepaired) {
     EXPECT_EQ(messages.Texts(), Texts(3, NotAtEdge));
 
     messages.Shown.clear();
+    const auto no_edge = Cell_project("20,20 30,30 | 60,110 -20,100 | -9,200 9,200", {5, 105});
+    no_edge->VTPSegEnd(2) = no_edge->VTPSegEnd(6) = false;  // to be turned round, but to no edge
+    EXPECT_EQ(Built(*no_edge, messages), "0,102 60,110 20,20 30,30");  // as far as it came
+    EXPECT_EQ(messages.Texts(), (Texts{Linked, NotAtEdge, NotAtEdge}));
+
+    messages.Shown.clear();
     const auto unstarted = Cell_project("-20,98 60,110 300,156", {100, 230});
     unstarted->VTPSegStart(1) = false;
     EXPECT_EQ(Built(*unstarted, messages), WholeCell);
