@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <stdexcept>
 
+#include "model/cell_frame.h"
+
 namespace tidemark {
 
 namespace {
@@ -12,28 +14,21 @@ namespace {
 // Cell units that a point keeps clear of: 0, 1, 254 and 255.
 constexpr int Margin = 2;
 
-int Cell_start(int cell) {
-    return FirstVTP + cell * CellSizeVTP;
-}
-
 int Clear_of_edges(double value, int cell) {
-    return std::clamp(static_cast<int>(std::lround(value)), Cell_start(cell) + Margin,
-                      Cell_start(cell) + LastCellUnit - Margin);
+    const int edge = Cell_edge_VTP(cell);
+    return std::clamp(static_cast<int>(std::lround(value)), edge + Margin,
+                      edge + LastCellUnit - Margin);
 }
 
 int Cell_index(int value) {
-    return (value - FirstVTP) / CellSizeVTP;
+    return Cell_offset(value - FirstVTP);
 }
 
 // A point of the line: clear of all cell edges, or exactly on the map's own edge.
 Position Placed(GeoPoint point) {
-    Position placed;
-    for (std::size_t axis : {0U, 1U}) {
-        const double value = FirstVTP + Part_of_cell(point)[axis] * AreaSize;
-        const int unit = std::clamp(static_cast<int>(std::lround(value)), FirstVTP, LastVTP);
-        const bool on_map_edge = unit == FirstVTP || unit == LastVTP;
-        placed[axis] = on_map_edge ? unit : Clear_of_edges(value, Cell_index(unit));
-    }
+    Position placed = VTP_position(point);
+    for (int& value : placed)
+        if (value != FirstVTP && value != LastVTP) value = Clear_of_edges(value, Cell_index(value));
     return placed;
 }
 
@@ -53,7 +48,7 @@ std::vector<LineCrossing> Line_crossings(Position from, Position to) {
     for (std::size_t axis : {0U, 1U}) {
         const auto [low, high] = std::minmax({Cell_index(from[axis]), Cell_index(to[axis])});
         for (int cell = low + 1; cell <= high; ++cell) {
-            const int edge = Cell_start(cell);
+            const int edge = Cell_edge_VTP(cell);
             const double at = (edge - 0.5 - from[axis]) / (to[axis] - from[axis]);
             crossings.push_back({at, axis, edge});
         }

@@ -1,7 +1,10 @@
 // Where the sample lies in the world, and how longitude and latitude become the map's units.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstddef>
 #include <vector>
 
 #include "model/limits.h"
@@ -34,6 +37,16 @@ inline constexpr int PictureSize = 2048;
 inline std::array<double, 2> Part_of_cell(GeoPoint point) {
     return {(point.Longitude - WestLongitude) / LOD8DegreesEast,
             (NorthLatitude - point.Latitude) / LOD8DegreesSouth};
+}
+
+// The nearest VTP unit, on the cell's outermost units for what lies beyond them.
+inline Position VTP_position(GeoPoint point) {
+    Position position;
+    for (std::size_t axis : {0U, 1U}) {
+        const double value = FirstVTP + Part_of_cell(point)[axis] * AreaSize;
+        position[axis] = std::clamp(static_cast<int>(std::lround(value)), FirstVTP, LastVTP);
+    }
+    return position;
 }
 
 inline GeoPoint Geo_point(Position position) {

@@ -1,5 +1,7 @@
 #include "golden_gate.h"
 
+#include "model/drawing_modes.h"
+
 namespace tidemark {
 
 namespace {
@@ -17,6 +19,24 @@ constexpr CoastArea Areas[] = {
     {-122.44, 37.955, -122.39, 37.97, IceWithWaves},     // north of Point San Pablo
     {-122.4786, 37.61, -122.34, 37.97, SandNoWaves},     // San Francisco Bay
     {-122.51, 37.835, -122.47, 37.97, SandNoWaves},      // its west shore in Marin County
+};
+
+// Rows of cells from north to south, each from west to east.
+constexpr PolygonClick Clicks[] = {
+    {LandPolygon, {-122.4831, 37.8315}},  {LandPolygon, {-122.4724, 37.8346}},
+    {WaterPolygon, {-122.4661, 37.8328}}, {WaterPolygon, {-122.4538, 37.8315}},
+
+    {LandPolygon, {-122.5282, 37.8214}},  {WaterPolygon, {-122.5253, 37.8188}},
+    {LandPolygon, {-122.5164, 37.8236}},  {WaterPolygon, {-122.5130, 37.8201}},
+    {LandPolygon, {-122.4994, 37.8227}},  {WaterPolygon, {-122.4972, 37.8201}},
+    {LandPolygon, {-122.4877, 37.8249}},  {WaterPolygon, {-122.4831, 37.8206}},
+    {WaterPolygon, {-122.4684, 37.8206}}, {WaterPolygon, {-122.4538, 37.8206}},
+
+    {WaterPolygon, {-122.5270, 37.8096}}, {WaterPolygon, {-122.5124, 37.8096}},
+    {WaterPolygon, {-122.4977, 37.8096}}, {WaterPolygon, {-122.4831, 37.8096}},
+    {LandPolygon, {-122.4779, 37.8057}},  {WaterPolygon, {-122.4684, 37.8100}},
+    {LandPolygon, {-122.4696, 37.8083}},  {WaterPolygon, {-122.4538, 37.8096}},
+    {LandPolygon, {-122.4515, 37.8074}},
 };
 
 }  // namespace
@@ -186,6 +206,10 @@ const std::vector<DrawnLine>& Roads_and_streams() {
           {-122.3840, 37.6410}}},
     };
     return lines;
+}
+
+std::span<const PolygonClick> Polygon_clicks() {
+    return Clicks;
 }
 
 }  // namespace tidemark

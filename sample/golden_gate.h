@@ -2,6 +2,8 @@
 // of coast is where. Drawn by hand, good to a few hundred metres.
 #pragma once
 
+#include <span>
+
 #include "geography.h"
 
 namespace tidemark {
@@ -35,5 +37,14 @@ struct DrawnLine {
 };
 
 const std::vector<DrawnLine>& Roads_and_streams();
+
+// A click that builds a polygon.
+struct PolygonClick {
+    int Type;  // WaterPolygon or LandPolygon
+    GeoPoint Where;
+};
+
+// Around the Golden Gate; each is surrounded by the polygon that it builds.
+std::span<const PolygonClick> Polygon_clicks();
 
 }  // namespace tidemark

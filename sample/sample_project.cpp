@@ -7,6 +7,8 @@
 
 #include "cell_path.h"
 #include "golden_gate.h"
+#include "lwm/polygon_builder.h"
+#include "model/cell_frame.h"
 #include "model/drawing_modes.h"
 #include "model/rounding.h"
 #include "model/segments.h"
@@ -111,6 +113,31 @@ void Add_cleared_cells(Project& project) {
     }
 }
 
+// Nobody is there to read a message: one that comes up is a fault of the sample.
+class NoMessages : public Messages {
+  public:
+    MessageAnswer Show(const Message& message) override { throw std::runtime_error(message.Text); }
+};
+
+// Water lies at sea level; land keeps the height of the terrain.
+void Add_polygons(Project& project) {
+    NoMessages messages;
+    for (const auto& [type, where] : Polygon_clicks()) {
+        const Position click = VTP_position(where);
+        const auto [column, row] = Cell_of(click);
+        project.DrawMode = type;
+        project.CursorCellX = column;
+        project.CursorCellY = row;
+        project.CursorInCellX = click[0] - Cell_edge_VTP(column);
+        project.CursorInCellY = click[1] - Cell_edge_VTP(row);
+        const bool water = type == WaterPolygon;
+        const HeightChoice height = water ? HeightChoice::Explicit : HeightChoice::Conform;
+        const LWMPolyResult built = Add_LWM_Poly(project, messages, height, "0");
+        if (!built.Added || !built.StatusLine.empty())
+            throw std::runtime_error("A click built another polygon: " + built.StatusLine);
+    }
+}
+
 }  // namespace
 
 std::unique_ptr<Project> Sample_project(const std::vector<GeoLine>& coast) {
@@ -124,6 +151,7 @@ std::unique_ptr<Project> Sample_project(const std::vector<GeoLine>& coast) {
         Add_segment(*project, Placed(line.Line), line.Mode, line.Width);
     Repair_segments(*project);
     Add_cleared_cells(*project);
+    Add_polygons(*project);
     return project;
 }
 
