@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
@@ -47,11 +48,28 @@ void Press(QWidget& control, Qt::Key key) {
     QTest::keyClick(&control, key);
 }
 
+// A move to where the pointer is already would not be reported.
+void Click_at(QWidget& control, QPoint place, Qt::MouseButton button) {
+    QTest::mouseMove(&control, place + QPoint(1, 1));
+    QTest::mouseMove(&control, place);
+    QTest::mouseClick(&control, button, {}, place);
+}
+
 void Type(QWidget& field, const QString& text) {
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&field, Qt::Key_Delete);
     QTest::keyClicks(&field, text);
+}
+
+void Choose_line(QComboBox& box, const QString& text) {
+    const int line = box.findText(text);
+    if (line < 0)
+        throw std::runtime_error((box.objectName() + " has no line " + text).toStdString());
+    Click(box);
+    QTest::keyClick(box.view(), Qt::Key_Home);
+    for (int i = 0; i < line; ++i) QTest::keyClick(box.view(), Qt::Key_Down);
+    QTest::keyClick(box.view(), Qt::Key_Enter);
 }
 
 void Choose_entry(QMainWindow& window, const QString& menu, const QString& entry) {
@@ -153,6 +171,8 @@ Plan& Plan::Then_choose(const QString& path) {
     });
 }
 
+namespace {
+
 QPixmap Screen_picture() {
     QScreen* const screen = QGuiApplication::primaryScreen();
     if (QGuiApplication::platformName() == "xcb") return screen->grabWindow(0);
@@ -162,6 +182,14 @@ QPixmap Screen_picture() {
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible()) painter.drawPixmap(window->pos(), window->grab());
     return picture;
+}
+
+}  // namespace
+
+QPixmap Picture_of(const QList<QWidget*>& windows) {
+    QRect part;
+    for (const QWidget* window : windows) part |= window->frameGeometry();
+    return Screen_picture().copy(part);
 }
 
 }  // namespace tidemark

@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -24,8 +25,12 @@ T& Control(const QWidget& root, const QString& path);
 // Clicks and keys at the middle of a control.
 void Click(QWidget& control, Qt::MouseButton button = Qt::LeftButton);
 void Press(QWidget& control, Qt::Key key);
+// Moves the mouse to a place in a control and clicks there.
+void Click_at(QWidget& control, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 // Replaces the text of an edit field by typing.
 void Type(QWidget& field, const QString& text);
+// Opens a combo box and chooses the line with this text. Throws when there is none.
+void Choose_line(QComboBox& box, const QString& text);
 // Opens a menu of the main window and clicks one of its entries. Throws when it is disabled.
 void Choose_entry(QMainWindow& window, const QString& menu, const QString& entry);
 
@@ -65,8 +70,9 @@ class Plan {
     QObject guard_;  // ends the looking together with the plan
 };
 
-// All visible windows of the program as they stand on the screen.
-QPixmap Screen_picture();
+// What the screen shows where these windows stand, with their frames. Their other windows are not
+// in the picture when they do not lie within.
+QPixmap Picture_of(const QList<QWidget*>& windows);
 
 namespace detail {
 [[noreturn]] void Throw_no_control(const QWidget& root, const QString& path, const char* kind);

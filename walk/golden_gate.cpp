@@ -2,8 +2,13 @@
 
 #include <stdexcept>
 
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
 
 #include "walk/driver.h"
 
@@ -11,51 +16,227 @@ namespace tidemark {
 
 namespace {
 
+// A place on the map: an LOD13 cell and a position inside it, in cell units.
+struct MapPlace {
+    int Column, Row, X, Y;
+};
+
+constexpr MapPlace shore[] = {{23, 14, 0, 116},   {23, 14, 12, 88},   {23, 14, 200, 208},
+                              {24, 14, 128, 180}, {25, 14, 128, 144}, {26, 14, 128, 104},
+                              {27, 14, 60, 88},   {27, 14, 116, 88},  {27, 14, 252, 232}};
+constexpr MapPlace bridge[] = {{22, 14, 252, 136}, {22, 12, 196, 244}, {22, 12, 116, 80}};
+constexpr int first_column = 23, last_column = 27, shore_row = 14;
+
 void Check(bool holds, const QString& what) {
     if (!holds) throw std::runtime_error(("the walk: " + what).toStdString());
 }
 
-void Copy_sample(const QString& from, const QString& to) {
-    for (const char* const name : {"golden-gate.TDM", "golden-gate.jpg"}) {
-        QFile::remove(to + "/" + name);
-        Check(QFile::copy(from + "/" + name, to + "/" + name),
-              QString("%1 could not be copied to %2").arg(name, to));
-    }
-}
-
-void Take_picture(const QString& name) {
-    constexpr int settling = 150;  // milliseconds for the windows to be painted
+void Save_picture(const QList<QWidget*>& windows, const QString& name) {
+    constexpr int settling = 200;  // milliseconds for the windows to be painted
     QTest::qWait(settling);
-    Check(Screen_picture().save(name + ".png"), name + ".png could not be saved");
+    Check(Picture_of(windows).save(name + ".png"), name + ".png could not be saved");
 }
 
-void Open_sample(TidemarkMain& window) {
+class Walk {
+  public:
+    explicit Walk(TidemarkMain& window)
+        : window_(window),
+          panel_(Control<Status>(window, "Status")),
+          canvas_(Control<QWidget>(window, "Picture2")) {}
+
+    void Load_the_map();
+    void Draw_the_shore();
+    void Put_its_ends_on_the_edges();
+    void Make_water_and_land();
+    void Draw_the_bridge();
+    void Clear_what_is_there();
+    void Save_the_project();
+    void Write_both_files();
+    void Open_the_sample();
+
+  private:
+    const Project& Now() const { return window_.Current_project(); }
+    void Take_picture(const QString& name) { Save_picture({&window_, &panel_}, name); }
+    void Choose_mode(const QString& mode) {
+        Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), mode);
+    }
+    QPoint Pixel(const MapPlace& place);
+    void Click_map(const MapPlace& place, Qt::MouseButton button = Qt::LeftButton);
+    void Move_point(const MapPlace& near, int in_cell_x, const QString& picture);
+    void Save_file(const char* entry, const QString& name);
+
+    TidemarkMain& window_;
+    Status& panel_;
+    QWidget& canvas_;
+};
+
+// Scrolls so that the place is well inside the view.
+QPoint Walk::Pixel(const MapPlace& place) {
+    const double x = place.Column * CellSizeVTP + place.X;
+    const double y = place.Row * CellSizeVTP + place.Y;
+    const QPoint pixel(qRound(x * Now().ScaleX), qRound(y * Now().ScaleY));
+    Control<QScrollBar>(window_, "HScroll1").setValue(1300);
+    Control<QScrollBar>(window_, "VScroll1").setValue(700);
+    return pixel;
+}
+
+void Walk::Click_map(const MapPlace& place, Qt::MouseButton button) {
+    Click_at(canvas_, Pixel(place), button);
+}
+
+void Walk::Load_the_map() {
+    Plan plan;
+    plan.Then_choose(QDir::current().absoluteFilePath("golden-gate.jpg"));
+    plan.Then([](QWidget& properties) {
+        Click(Control<QPushButton>(properties, "ShowCalc"));  // the next two steps come up inside
+        Type(Control<QLineEdit>(properties, "LOD13brX"), "31");
+        Type(Control<QLineEdit>(properties, "LOD13brY"), "31");
+        Save_picture({&properties}, "background-properties");
+        Click(Control<QPushButton>(properties, "OKButton"));
+    });
+    plan.Then([](QWidget& calculator) {
+        Type(Control<QLineEdit>(calculator, "CalcLatText"), "37:49:10");
+        Type(Control<QLineEdit>(calculator, "CalcLonText"), "122:28:42");
+        Choose_line(Control<QComboBox>(calculator, "EWcombo"), "W");
+        Save_picture({&calculator}, "cell-calculator");
+        Click(Control<QPushButton>(calculator, "CalcButton"));
+    });
+    plan.Then_answer(QMessageBox::Yes);
+    Choose_entry(window_, "BackgroundMenu", "BackgroundLoad");
+    plan.Finish();
+    Check(Now().BackgroundLoaded && Now().BGLOD8X == 122 && Now().BGLOD8Y == 148,
+          "the map was not loaded and placed");
+}
+
+void Walk::Draw_the_shore() {
+    Choose_mode("Coastline (sand), no waves");
+    Type(Control<QLineEdit>(panel_, "VTPwidthText"), "40");
+    for (const MapPlace& place : shore) Click_map(place);
+    // A point too few and one to go: insert one before the last, and take it out again.
+    const int count = Now().VTPCount;
+    Click_map(shore[7], Qt::RightButton);
+    Click_map({27, 14, 88, 88});
+    Check(Now().VTPCount == count + 1, "no point was inserted");
+    Press(canvas_, Qt::Key_Delete);
+    Check(Now().VTPCount == count && count == 9, "the shore does not have its points");
+    Click_map(shore[8], Qt::RightButton);
+    Take_picture("drawing");
+}
+
+void Walk::Move_point(const MapPlace& near, int in_cell_x, const QString& picture) {
+    Click_map(near, Qt::RightButton);
+    Plan plan;
+    plan.Then([&](QWidget& dialog) {
+        Click(Control<QRadioButton>(dialog, "Option2"));
+        Type(Control<QLineEdit>(dialog, "LOD13X"), QString::number(in_cell_x));
+        if (!picture.isEmpty()) Save_picture({&dialog}, picture);
+        Click(Control<QPushButton>(dialog, "OKButton"));
+    });
+    Press(canvas_, Qt::Key_E);
+    plan.Finish();
+}
+
+void Walk::Put_its_ends_on_the_edges() {
+    Move_point(shore[0], 0, "edit-point");
+    Move_point(shore[8], 255, "");
+    Check(Now().VTPPoint(9, 0) == 4080 + 256 * last_column + 255, "the last point was not moved");
+    Click(Control<QPushButton>(panel_, "ReverseButton"));
+    Check(Now().VTPPoint(1, 0) == 4080 + 256 * last_column + 255, "the shore was not reversed");
+}
+
+void Walk::Make_water_and_land() {
+    Choose_mode("Water polygon");
+    for (int column = first_column; column <= last_column; ++column)
+        Click_map({column, shore_row, 180, 40});
+    Choose_mode("Land polygon");
+    for (int column = first_column; column <= last_column; ++column)
+        Click_map({column, shore_row, 60, 240});
+    Check(Now().LWMCount == 10, "there are not ten polygons");
+    Take_picture("polygons");
+}
+
+void Walk::Draw_the_bridge() {
+    Choose_mode("Road (2 lane concrete)");
+    Type(Control<QLineEdit>(panel_, "VTPwidthText"), "8");
+    for (const MapPlace& place : bridge) Click_map(place);
+    Check(Now().VTPSegStart(10) && Now().VTPWidth(10) == 8, "the bridge is no segment of its own");
+}
+
+void Walk::Clear_what_is_there() {
+    Choose_mode("Clear existing coastlines in LOD13 cell");
+    for (int column = first_column; column <= last_column; ++column)
+        Click_map({column, shore_row, 128, 128});
+    Choose_mode("Clear existing major roads in LOD13 cell");
+    for (const int row : {12, 13, 14}) Click_map({22, row, 128, 128});
+    Check(Now().KillCount == 8, "there are not eight cleared cells");
+}
+
+void Walk::Save_the_project() {
+    Plan plan;
+    plan.Then_choose(QDir::current().absoluteFilePath("north-shore")).Then_answer();
+    Choose_entry(window_, "FileMenu", "FileSaveAs");
+    plan.Finish();
+    Check(window_.windowTitle() == "Tidemark - NORTH-SHORE.TDM", "the project was not saved");
+}
+
+// The scenery compiler is not there, which a warning says after each file.
+void Walk::Save_file(const char* entry, const QString& name) {
+    Plan plan;
+    plan.Then_answer().Then_answer();
+    Choose_entry(window_, "Output", entry);
+    plan.Finish();
+    Check(plan.Messages().at(0).endsWith("file saved OK"), name + " was not saved");
+    Check(QFile::exists(name), name + " is not there");
+}
+
+void Walk::Write_both_files() {
+    Plan plan;
+    plan.Then([](QWidget& preferences) {
+        Click(Control<QPushButton>(preferences, "BrowseButton"));  // the next step comes up inside
+        Save_picture({&preferences}, "preferences");
+        Click(Control<QPushButton>(preferences, "OKbutton"));
+    });
+    plan.Then_choose(QDir::current().absoluteFilePath("north-shore"));
+    Choose_entry(window_, "Output", "OutputPreferences");
+    plan.Finish();
+    Save_file("VTPsave", "north-shore-VTP.asm");
+    Save_file("LWMsave", "north-shore-LWM.asm");
+}
+
+void Walk::Open_the_sample() {
     Plan plan;
     plan.Then_choose(QDir::current().absoluteFilePath("golden-gate.TDM"));
-    Choose_entry(window, "FileMenu", "FileOpen");
+    Choose_entry(window_, "FileMenu", "FileOpen");
     plan.Finish();
-    Check(window.windowTitle() == "Tidemark - GOLDEN-GATE.TDM", "the sample was not opened");
-    Take_picture("1-sample-opened");
+    Check(window_.windowTitle() == "Tidemark - GOLDEN-GATE.TDM", "the sample was not opened");
+    Control<QScrollBar>(window_, "HScroll1").setValue(700);
+    Control<QScrollBar>(window_, "VScroll1").setValue(500);
+    Take_picture("main-window");
+    Save_file("VTPsave", "golden-gate-VTP.asm");
 }
 
-void Save_VTP_file(TidemarkMain& window) {
-    Plan plan;
-    plan.Then([](QWidget& box) {
-        Take_picture("2-vtp-file-saved");
-        Press(box, Qt::Key_Enter);
-    });
-    Choose_entry(window, "Output", "VTPsave");
-    plan.Finish();
-    Check(QFile::exists("golden-gate-VTP.asm"), "there is no VTP file");
+void Copy_sample(const QString& from) {
+    for (const char* const name : {"golden-gate.TDM", "golden-gate.jpg"}) {
+        QFile::remove(name);
+        Check(QFile::copy(from + "/" + name, name), QString("%1 could not be copied").arg(name));
+    }
 }
 
 }  // namespace
 
-void Play_golden_gate(TidemarkMain& window, const QString& sample_folder, const QString& out) {
-    Copy_sample(sample_folder, out);
-    QDir::setCurrent(out);
-    Open_sample(window);
-    Save_VTP_file(window);
+void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
+    QDir::setCurrent(folders.Out);
+    Copy_sample(folders.Sample);
+    Walk walk(window);
+    walk.Load_the_map();
+    walk.Draw_the_shore();
+    walk.Put_its_ends_on_the_edges();
+    walk.Make_water_and_land();
+    walk.Draw_the_bridge();
+    walk.Clear_what_is_there();
+    walk.Save_the_project();
+    walk.Write_both_files();
+    walk.Open_the_sample();
 }
 
 }  // namespace tidemark

@@ -1,4 +1,5 @@
-// The main job, played through the real windows: the Golden Gate sample.
+// The main job, played through the real windows: a map drawn from an empty window to both assembler
+// files, as the tutorial tells it, and the Golden Gate sample.
 #pragma once
 
 #include <QString>
@@ -7,9 +8,15 @@
 
 namespace tidemark {
 
-// Opens a copy of the sample, saves its files through the menu and takes pictures on the way. All
-// that it makes goes to `out`, an existing folder, which becomes the current folder. Throws
-// std::runtime_error when a window does not do what it should.
-void Play_golden_gate(TidemarkMain& window, const QString& sample_folder, const QString& out);
+// Where the walk finds the sample, and the existing folder that it leaves everything in; that
+// becomes the current folder.
+struct WalkFolders {
+    QString Sample;
+    QString Out;
+};
+
+// Plays on a main window that has just been opened; takes the tutorial's pictures on the way.
+// Throws std::runtime_error when a window does not do what it should.
+void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders);
 
 }  // namespace tidemark

@@ -2,6 +2,8 @@
 #include <cstdio>
 #include <exception>
 
+#include <QFileInfo>
+
 #include "app/qt_application.h"
 #include "walk/driver.h"
 #include "walk/golden_gate.h"
@@ -17,7 +19,8 @@ int main(int argc, char** argv) {
         tidemark::TidemarkMain window;
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("no window came up");
-        tidemark::Play_golden_gate(window, TIDEMARK_SAMPLE_DIR, QString::fromLocal8Bit(argv[1]));
+        tidemark::Play_golden_gate(window,
+                                   {TIDEMARK_SAMPLE_DIR, QFileInfo(argv[1]).absoluteFilePath()});
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

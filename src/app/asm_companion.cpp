@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "lwm/lwm_list.h"
 #include "model/path_text.h"
 #include "model/project_file.h"
 #include "model/segments.h"
@@ -41,6 +42,7 @@ bool Read_and_repair(const std::string& path, Project& project, Files& files,
         return false;
     }
     Repair_segments(project);
+    Drop_closing_points(project);
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "app/tidemark_main_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenuBar>
@@ -11,6 +12,8 @@
 #include "app/project_commands.h"
 #include "model/path_text.h"
 #include "output/assembler_files.h"
+#include "output/preferences_window.h"
+#include "platform/qt_patience.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -43,23 +46,24 @@ const std::vector<TidemarkMain::Menu>& TidemarkMain::Menus() {
           {"FileExit", "E&xit", &T::FileExit_Click, true, QKeySequence::Quit}}},
         {"BackgroundMenu",
          "&Background",
-         {{"BackgroundLoad", "&Load background image"},
-          {"BackgroundProperties", "Change background &properties", nullptr, off}}},
+         {{"BackgroundLoad", "&Load background image", &T::BackgroundLoad_Click},
+          {"BackgroundProperties", "Change background &properties", &T::BackgroundProperties_Click,
+           off}}},
         {"Output",
          "&Output",
          {{"LWMsave", "Save &LWM data to file", &T::LWMsave_Click, off},
           {"VTPsave", "Save &VTP data to file", &T::VTPsave_Click, off},
           {"sep3", "-"},
-          {"OutputPreferences", "&Preferences"}}},
+          {"OutputPreferences", "&Preferences", &T::OutputPreferences_Click}}},
         {"HelpMenu",
          "&Help",
          {{"ShowStatus", "&Show Status Panel", &T::ShowStatus_Click},
-          {"CellCalc", "&Cell Calculator"},
+          {"CellCalc", "&Cell Calculator", &T::CellCalc_Click},
           {"sep5", "-"},
-          {"Instructions", "&Instructions"},
-          {"Tutorial", "&Tutorial"},
+          {"Instructions", "&Instructions", &T::Instructions_Click},
+          {"Tutorial", "&Tutorial", &T::Tutorial_Click},
           {"sep4", "-"},
-          {"HelpAbout", "&About"}}},
+          {"HelpAbout", "&About", &T::HelpAbout_Click}}},
     };
     return menus;
 }
@@ -68,13 +72,18 @@ TidemarkMain::TidemarkMain()
     : project_(std::make_unique<Project>()),
       messages_(*this),
       choosers_(*this),
-      platform_{messages_, choosers_, files_, clock_, From_qt(QDir::currentPath())},
-      status_(new Status(*project_, messages_, this)) {
+      platform_{messages_, choosers_, files_, clock_, programs_, From_qt(QDir::currentPath())},
+      map_(new MapView(*project_, messages_, this)),
+      status_(new Status(*project_, messages_, this)),
+      edit_point_(new EditPoint(*project_, messages_, this)),
+      calculator_(new CellCalculator(*project_, messages_, this)) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);
     Build_menus();
+    setCentralWidget(map_);
     statusBar();
+    Wire_map();
     Wire_status_panel();
     Form_Load();
 }
@@ -97,7 +106,18 @@ void TidemarkMain::Build_menus() {
     }
 }
 
+void TidemarkMain::Wire_map() {
+    connect(map_, &MapView::Background_shown, &Entry("BackgroundProperties"),
+            [this] { Entry("BackgroundProperties").setEnabled(true); });
+    connect(map_, &MapView::Graphics_outdated, this, &TidemarkMain::Refresh_Graphics);
+    connect(map_, &MapView::Picture2_MouseMove, this, &TidemarkMain::Picture2_MouseMove);
+    connect(map_, &MapView::Picture2_MouseDown, this, &TidemarkMain::Picture2_MouseDown);
+    connect(map_, &MapView::Picture2_KeyDown, this, &TidemarkMain::Picture2_KeyDown);
+}
+
 void TidemarkMain::Wire_status_panel() {
+    connect(status_, &Status::Resized, this, &TidemarkMain::Status_Resize);
+    connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
     const auto redraw = &TidemarkMain::Refresh_Graphics;
     connect(status_, &Status::RefreshButton_Click, this, redraw);
     connect(&status_->VTP(), &VTPFrame::Graphics_outdated, this, redraw);
@@ -106,6 +126,8 @@ void TidemarkMain::Wire_status_panel() {
     const QAction* const vtp_save = &Entry("VTPsave");
     connect(&status_->VTP(), &VTPFrame::SaveEntry_changed, vtp_save, &QAction::setEnabled);
     connect(&status_->Kill(), &KillFrame::SaveEntry_changed, vtp_save, &QAction::setEnabled);
+    connect(&status_->LWM(), &LWMFrame::Remarked, statusBar(),
+            [this](const QString& text) { statusBar()->showMessage(text); });
     connect(&status_->LWM(), &LWMFrame::SaveEntry_changed, &Entry("LWMsave"), &QAction::setEnabled);
 }
 
@@ -141,8 +163,10 @@ void TidemarkMain::Open(const QString& path) {
     if (!result.Opened) return;
 
     Show_title(chosen);
+    if (project_->BackgroundLoaded) map_->Load_Background();
     Entry("LWMsave").setEnabled(project_->PrefsSet);
     Entry("VTPsave").setEnabled(project_->PrefsSet);
+    Refresh_lists();
     Entry("FileSave").setEnabled(true);
     project_->DataChanged = false;
 }
@@ -165,18 +189,53 @@ void TidemarkMain::FileExit_Click() {
 }
 
 void TidemarkMain::LWMsave_Click() {
-    Save_LWM_file(*project_, messages_, files_);
+    if (Save_LWM_file(*project_, messages_, files_)) Run_after_save(LWM_after_save(*project_));
     Refresh_Graphics();
 }
 
 void TidemarkMain::VTPsave_Click() {
-    Save_VTP_file(*project_, messages_, files_);
+    if (Save_VTP_file(*project_, messages_, files_)) Run_after_save(VTP_after_save(*project_));
+    Refresh_Graphics();
+}
+
+void TidemarkMain::Run_after_save(const AfterSaveTask& task) {
+    QtPatience patience(*statusBar());
+    After_save(task, messages_, files_, programs_, patience);
+}
+
+void TidemarkMain::OutputPreferences_Click() {
+    Preferences dialog(platform_, this);
+    if (const auto confirmed = dialog.Ask(Shown_preferences(*project_))) {
+        Store_preferences(*confirmed, *project_);
+        Entry("LWMsave").setEnabled(true);
+        Entry("VTPsave").setEnabled(true);
+    }
     Refresh_Graphics();
 }
 
 void TidemarkMain::ShowStatus_Click() {
     status_->show();
     status_->raise();
+    Refresh_Graphics();
+}
+
+void TidemarkMain::Instructions_Click() {
+    Show_help_document(InstructionsDocument);
+}
+
+void TidemarkMain::Tutorial_Click() {
+    Show_help_document(TutorialDocument);
+}
+
+void TidemarkMain::Show_help_document(const HelpDocument& document) {
+    const HelpPlaces places{From_qt(QDir::currentPath()),
+                            From_qt(QCoreApplication::applicationDirPath())};
+    Show_help(document, places, messages_, files_, programs_);
+    Refresh_Graphics();
+}
+
+void TidemarkMain::HelpAbout_Click() {
+    Show_about(messages_);
     Refresh_Graphics();
 }
 
@@ -187,8 +246,6 @@ QAction& TidemarkMain::Entry(const char* name) const {
 void TidemarkMain::Show_title(const std::string& project_path) {
     setWindowTitle("Tidemark - " + To_qt(Last_part(project_path)).toUpper());
 }
-
-void TidemarkMain::Refresh_Graphics() {}
 
 void TidemarkMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(May_exit(*project_, messages_));

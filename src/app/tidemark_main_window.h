@@ -7,10 +7,15 @@
 #include <QMainWindow>
 
 #include "app/status_panel_window.h"
+#include "canvas/map_view_window.h"
+#include "georef/cell_calculator_window.h"
 #include "model/project.h"
+#include "output/after_save.h"
+#include "output/help.h"
 #include "platform/platform.h"
 #include "platform/qt_choosers.h"
 #include "platform/qt_messages.h"
+#include "vtp_edit/edit_point_window.h"
 
 namespace tidemark {
 
@@ -36,30 +41,56 @@ class TidemarkMain : public QMainWindow {
     struct Menu;
     static const std::vector<Menu>& Menus();
 
+    // Start-up, in tidemark_main_window.cpp.
     void Build_menus();
+    void Wire_map();
     void Wire_status_panel();
     void Place_windows();
     void Form_Load();
 
+    // Files, output and help, in tidemark_main_window.cpp.
     void FileOpen_Click();
     void FileSave_Click();
     void FileSaveAs_Click();
     void FileExit_Click();
     void LWMsave_Click();
     void VTPsave_Click();
+    void OutputPreferences_Click();
     void ShowStatus_Click();
+    void Instructions_Click();
+    void Tutorial_Click();
+    void HelpAbout_Click();
+
+    // The map and what is done on it, in tidemark_map_window.cpp.
+    void BackgroundLoad_Click();
+    void BackgroundProperties_Click();
+    void CellCalc_Click();
+    void Status_Resize();
+    void Picture2_MouseMove(float x, float y);
+    void Picture2_MouseDown(int button);
+    void Picture2_KeyDown(int key_code);
+    void Left_click();
+    void Select_point();
+    void EditButton_Click();
+    void Refresh_lists();
+    void Refresh_Graphics();
 
     QAction& Entry(const char* name) const;
     void Show_title(const std::string& project_path);
-    void Refresh_Graphics();
+    void Run_after_save(const AfterSaveTask& task);
+    void Show_help_document(const HelpDocument& document);
 
     std::unique_ptr<Project> project_;
     QtMessages messages_;
     QtChoosers choosers_;
     DiskFiles files_;
     SystemClock clock_;
+    SystemPrograms programs_;
     Platform platform_;
+    MapView* map_;
     Status* status_;
+    EditPoint* edit_point_;
+    CellCalculator* calculator_;
 };
 
 }  // namespace tidemark

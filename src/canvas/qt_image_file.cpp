@@ -14,7 +14,7 @@ namespace {
 // picture grey, or whatever the memory held before.
 
 QByteArray Bytes_at(QIODevice& file, qint64 position, qint64 count) {
-    return file.seek(position) ? file.read(count) : QByteArray();
+    return position < file.size() && file.seek(position) ? file.read(count) : QByteArray();
 }
 
 bool Is_whole_BMP(QIODevice& file) {
@@ -35,8 +35,10 @@ bool Is_whole_BMP(QIODevice& file) {
     const qint64 bits = is_core ? word_at(24) : word_at(28);
     const qint64 compression = is_core ? 0 : long_at(30);
     const bool is_packed = compression == run_lengths_8 || compression == run_lengths_4;
-    const qint64 data_size = is_packed ? long_at(34) : (width * bits + 31) / 32 * 4 * height;
-    return long_at(10) + data_size <= file.size();
+    const qint64 row_size = (width * bits + 31) / 32 * 4;
+    const qint64 room = file.size() - long_at(10);
+    if (is_packed) return long_at(34) <= room;
+    return height == 0 || row_size <= room / height;
 }
 
 // Skips a GIF's sub-blocks up to and with the empty one that ends them.

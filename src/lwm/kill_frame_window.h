@@ -18,11 +18,19 @@ class KillFrame : public QGroupBox {
     // The selected entry's list position (entry - 1); -1 for none.
     int Selected() const;
 
+    // Adds an entry for the cursor's cell, of the clear code of the last click.
+    void Add_Kill_Cell();
+    // Shows the project's cleared cells as they are now; the selection stays as far as it can.
+    void Refresh_Kill_List();
+
   Q_SIGNALS:
     void Graphics_outdated();              // the map has to be drawn again
     void SaveEntry_changed(bool enabled);  // of the menu entry VTPsave
 
   private:
+    void KillListBox_KeyDown(int key_code);
+    void Show_cells(int selected);
+
     Project& project_;
     Messages& messages_;
     ListBox* KillListBox_;

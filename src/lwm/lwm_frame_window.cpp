@@ -2,6 +2,12 @@
 
 #include <QGridLayout>
 
+#include "lwm/lwm_list.h"
+#include "lwm/polygon_builder.h"
+#include "model/list_selection.h"
+#include "platform/qt_keys.h"
+#include "platform/qt_text.h"
+
 namespace tidemark {
 
 LWMFrame::LWMFrame(Project& project, Messages& messages, QWidget* parent)
@@ -14,6 +20,7 @@ LWMFrame::LWMFrame(Project& project, Messages& messages, QWidget* parent)
       ConformOption_(new QRadioButton("Conform to existing terrain")) {
     Lay_out();
     connect(LWMlistBox_, &ListBox::Clicked, this, &LWMFrame::Graphics_outdated);
+    connect(LWMlistBox_, &ListBox::Key_pressed, this, &LWMFrame::LWMlistBox_KeyDown);
     connect(ConformOption_, &QRadioButton::toggled, PolyHeightText_, &QLineEdit::setDisabled);
     ConformOption_->setChecked(true);
 }
@@ -39,6 +46,35 @@ int LWMFrame::Selected() const {
 void LWMFrame::Mode_chosen(const DrawingMode& mode) {
     if (mode.Code == WaterPolygon) HeightOption_->setChecked(true);
     if (mode.Code == LandPolygon) ConformOption_->setChecked(true);
+}
+
+void LWMFrame::Add_LWM_Poly() {
+    const HeightChoice choice =
+        ConformOption_->isChecked() ? HeightChoice::Conform : HeightChoice::Explicit;
+    const LWMPolyResult result =
+        tidemark::Add_LWM_Poly(project_, messages_, choice, From_qt(PolyHeightText_->text()));
+    PolyHeightText_->setText(To_qt(result.HeightText));
+    Refresh_LWM_List();
+    if (!result.StatusLine.empty()) Q_EMIT Remarked(To_qt(result.StatusLine));
+}
+
+void LWMFrame::Refresh_LWM_List() {
+    Show_polygons(Selected());
+}
+
+void LWMFrame::Show_polygons(int selected) {
+    Drop_closing_points(project_);
+    LWMlistBox_->Show_lines(LWM_list_lines(project_),
+                            Selected_after_refresh(selected, project_.LWMCount));
+    if (project_.PrefsSet) Q_EMIT SaveEntry_changed(project_.LWMCount > 0);
+    Q_EMIT Graphics_outdated();
+}
+
+void LWMFrame::LWMlistBox_KeyDown(int key_code) {
+    const int selected = Selected();
+    if (key_code != KeyDelete || selected < 0) return;
+    Delete_LWM_Poly(project_, selected + 1);
+    Show_polygons(Selected_after_delete(selected, project_.LWMCount));
 }
 
 }  // namespace tidemark

@@ -24,12 +24,20 @@ class LWMFrame : public QGroupBox {
     // Water lies at a height and land conforms to the terrain, until the user says otherwise.
     void Mode_chosen(const DrawingMode& mode);
 
+    // Builds the polygon of the cursor's cell around the click, of the type of the last click.
+    void Add_LWM_Poly();
+    // Shows the project's polygons as they are now; the selection stays as far as it can.
+    void Refresh_LWM_List();
+
   Q_SIGNALS:
     void Graphics_outdated();              // the map has to be drawn again
     void SaveEntry_changed(bool enabled);  // of the menu entry LWMsave
+    void Remarked(const QString& text);    // one quiet line about the polygon that was added
 
   private:
     void Lay_out();
+    void LWMlistBox_KeyDown(int key_code);
+    void Show_polygons(int selected);
 
     Project& project_;
     Messages& messages_;

@@ -18,7 +18,7 @@ constexpr std::string_view compiler_problem =
     "Please ensure that Flight Simulator 2002 is not currently running, and try saving the file "
     "again.";
 
-constexpr std::uintmax_t largest_compiled_file = 1024 * 1024 * 1024;  // bytes
+constexpr std::uintmax_t largest_compiled_file = std::uintmax_t{1} << 30;  // bytes
 
 class AfterSave {
   public:
@@ -50,7 +50,7 @@ class AfterSave {
 
     std::optional<std::string> Find_compiler() {
         const std::string expected = Compiler_path(task_.File);
-        const auto compiler = files_.Find(expected);
+        auto compiler = files_.Find(expected);
         if (!compiler)
             Warn(messages_,
                  expected +
@@ -82,7 +82,7 @@ class AfterSave {
     bool Copy(const std::string& from, const std::string& name) {
         const std::string folder =
             task_.FSFolder.substr(0, task_.FSFolder.find_last_not_of("\\/") + 1);
-        if (task_.FSFolder.empty() || !files_.Exists(folder + "/")) return false;
+        if (task_.FSFolder.empty() || !files_.Exists(folder + "/")) return false;  // no folder
         const std::string to = folder + "/" + name;
         std::string bytes;
         return files_.Read(from, largest_compiled_file, bytes) &&

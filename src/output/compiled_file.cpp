@@ -32,7 +32,7 @@ std::optional<std::string> Await_compiled_file(const std::string& assembler_file
     std::optional<std::uintmax_t> size;
     for (int quiet = 0;; quiet += time_between_looks) {
         const Quiet& limits = compiler->Has_ended() ? compiler_has_ended : compiler_goes_on;
-        const auto file = Find_compiled_file(assembler_file, files);
+        auto file = Find_compiled_file(assembler_file, files);
         const auto size_now = file ? files.Size(*file) : std::nullopt;
         if (size_now != size) quiet = 0;
         size = size_now;

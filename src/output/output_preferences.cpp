@@ -18,7 +18,7 @@ bool Check_path(const std::string& path, Messages& messages) {
 
 std::optional<std::string> Browse(FileChooser& dialog, Platform& platform) {
     dialog.InitialFolder = platform.StartFolder;
-    const auto path = platform.choosers.Choose(dialog);
+    auto path = platform.choosers.Choose(dialog);
     if (!path || !Check_path(*path, platform.messages)) return std::nullopt;
     dialog.FileName = *path;
     return path;

@@ -7,6 +7,7 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/messages.h"
+#include "platform/programs.h"
 
 namespace tidemark {
 
@@ -15,6 +16,7 @@ struct Platform {
     Choosers& choosers;
     Files& files;
     Clock& clock;
+    Programs& programs;
     std::string StartFolder;  // the folder that was current at start-up: where choosers begin
 };
 

@@ -9,7 +9,7 @@
 namespace tidemark {
 
 struct Command {
-    std::string Program;  // a path, or a bare name to be looked for where programs are
+    std::string Program;  // a full path, or a bare name to be looked for where programs are
     std::vector<std::string> Arguments;
     std::string Folder;  // to start it in; empty: the current folder
 
@@ -41,8 +41,7 @@ class Programs {
     virtual bool Show(const std::string& document) = 0;
 };
 
-// The machine's own programs. What is made for Windows and cannot be executed as it is goes through
-// wine, where that is installed.
+// The machine's own programs. What is made for Windows goes through wine, where that is installed.
 class SystemPrograms : public Programs {
   public:
     ProgramStart Start(const Command& command) override;

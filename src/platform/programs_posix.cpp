@@ -159,12 +159,14 @@ Command Through_wine(const Command& command) {
 }  // namespace
 
 ProgramStart SystemPrograms::Start(const Command& command) {
+    const bool for_windows = Is_windows_program(command.Program);
+    if (for_windows)
+        if (auto program = Spawn(Through_wine(command))) return {std::move(program), ""};
     if (auto program = Spawn(command)) return {std::move(program), ""};
-    if (!Is_windows_program(command.Program)) return {};
-    if (auto program = Spawn(Through_wine(command))) return {std::move(program), ""};
+    if (!for_windows) return {};
     return {nullptr, command.Program +
-                         " is a Windows program, which this system runs through wine." +
-                         "\nPlease install wine and try again."};
+                         " is a Windows program, which this system runs through wine.\n"
+                         "Please install wine and try again."};
 }
 
 bool SystemPrograms::Show(const std::string& document) {

@@ -74,6 +74,7 @@ TEST(CompanionTest, FlagsAndClosingPointsArePutRightAsInTheEditor) {
     std::ostringstream written, errors;
     EXPECT_TRUE(Write_assembler_files({"", {"r.TDM"}}, files, written, errors)) << errors.str();
     EXPECT_EQ(files.Content["r-VTP.asm"], VTP_file_bytes(River(false)));
+    EXPECT_EQ(files.Content["r-LWM.asm"], LWM_file_bytes(River(true)));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "fakes/memory_files.h"
 #include "fakes/recording_messages.h"
+#include "fakes/recording_programs.h"
 #include "platform/platform.h"
 
 namespace tidemark {
@@ -35,7 +36,8 @@ struct FakePlatform {
     RecordingChoosers choosers;
     MemoryFiles files;
     StoppedClock clock;
-    Platform platform{messages, choosers, files, clock, "/start"};
+    RecordingPrograms programs;
+    Platform platform{messages, choosers, files, clock, programs, "/start"};
 };
 
 }  // namespace tidemark

@@ -78,13 +78,6 @@ TEST_F(AfterSaveTest, ShowsThenCompilesThenCopies) {
     EXPECT_EQ(files_.Content["/fs/Skye-VTP.BGL"], "the whole");
 }
 
-TEST_F(AfterSaveTest, WithoutACopyNothingIsWaitedFor) {
-    task_.Compile = true;
-    EXPECT_EQ(Run(), Texts());
-    EXPECT_EQ(programs_.Started.size(), 1U);
-    EXPECT_EQ(patience_.Waited, 0);
-}
-
 TEST_F(AfterSaveTest, WithoutCompilingTheFileOfAnEarlierRunIsCopiedAtOnce) {
     task_.CopyToFS = true;
     EXPECT_EQ(Run(), Texts{"Skye-VTP.BGL not found!"});
@@ -134,18 +127,6 @@ TEST_F(AfterSaveTest, EachFailureEndsTheSequence) {
     }
 }
 
-TEST_F(AfterSaveTest, ACopyThatFailsIsTold) {
-    task_.CopyToFS = true;
-    files_.Content["/s/Skye-VTP.BGL"] = "compiled";
-    for (const char* folder : {"", "/none/", R"(C:\FS2002\)"}) {
-        task_.FSFolder = folder;
-        EXPECT_EQ(Run(), Texts{compiler_problem}) << folder;
-    }
-    task_.FSFolder = "/fs/";
-    files_.WriteError = "No space left on device";
-    EXPECT_EQ(Run(), Texts{compiler_problem});
-}
-
 TEST_F(AfterSaveTest, TheDestinationNeedsNoLastSeparatorAndKeepsItsFilesCase) {
     task_.CopyToFS = true;
     files_.Content["/s/Skye-VTP.BGL"] = "new";
@@ -156,19 +137,6 @@ TEST_F(AfterSaveTest, TheDestinationNeedsNoLastSeparatorAndKeepsItsFilesCase) {
         EXPECT_EQ(std::exchange(files_.Content["/fs/skye-vtp.bgl"], "old"), "new");
     }
     EXPECT_FALSE(files_.Exists("/fs/Skye-VTP.BGL"));
-}
-
-TEST_F(AfterSaveTest, NamesOfAnyCaseAreFound) {
-    task_.Compile = task_.CopyToFS = true;
-    files_.Content = {{"/s/Bglc.exe", ""}, {"/s/skye-vtp.bgl", "old"}, {"/fs/", ""}};
-    patience_.Meanwhile = [&](int waited) {
-        EXPECT_FALSE(waited == 100 && files_.Exists("/s/skye-vtp.bgl"));
-        files_.Content["/s/SKYE-VTP.bgl"] = "new";
-        programs_.Ended = true;
-    };
-    EXPECT_EQ(Run(), Texts{"Skye-VTP.BGL successfully copied to /fs/"});
-    EXPECT_EQ(programs_.Started[0].Program, "/s/Bglc.exe");
-    EXPECT_EQ(files_.Content["/fs/Skye-VTP.BGL"], "new");
 }
 
 TEST_F(AfterSaveTest, AnAssemblerFileNamedLikeTheCompiledOneIsNeverDeleted) {

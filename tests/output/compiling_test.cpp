@@ -92,6 +92,7 @@ TEST_F(CompilingTest, ACompilerThatStaysOpenIsNotWaitedForForever) {
 TEST_F(CompilingTest, NamesOfAnyCaseAreFound) {
     const Variable lower("STANDIN_LOWER_CASE", "1");
     fs::rename(scenery_ + "/BGLC.EXE", scenery_ + "/bglc.exe");
+    Write_file(scenery_ + "/-vtp A;$(B)'.bgl", "of an earlier run");
     EXPECT_EQ(Save(), copied_);
     EXPECT_TRUE(Copied_whole());
 }
@@ -141,7 +142,11 @@ TEST_F(CompilingTest, ADestinationThatIsNotThereIsTold) {
     fs::remove(simulator_);
     EXPECT_EQ(Save(), problem_);
     Write_file(simulator_, "a file, not a folder");
-    EXPECT_EQ(Save(), problem_);
+    project_.VTPCompile = false;
+    for (const std::string& folder : {simulator_, std::string(), std::string("C:\\FS2002\\")}) {
+        project_.FSFolder = folder;
+        EXPECT_EQ(Save(), problem_) << folder;
+    }
     EXPECT_TRUE(fs::exists(compiled_));
 }
 

@@ -1,0 +1,221 @@
+// Loading, resizing, scrolling and redrawing the map in a view of 1600 x 1000 pixels: scans of
+// 10,000 x 10,000, and the largest project that there can be.
+#include <memory>
+#include <random>
+
+#include <QCoreApplication>
+#include <QImageReader>
+#include <QMouseEvent>
+#include <QPainter>
+#include <benchmark/benchmark.h>
+
+#include "canvas/map_frame.h"
+#include "canvas/map_view_window.h"
+#include "canvas/refresh_graphics.h"
+#include "fakes/recording_messages.h"
+#include "fakes/sample_projects.h"
+#include "fakes/temporary_folder.h"
+#include "platform/qt_text.h"
+
+namespace tidemark {
+namespace {
+
+constexpr QSize WindowSize(1600, 1000);
+
+// 999 points, 1000 cleared cells and 200 polygons of 200 points all over their cells: 47,000 lines.
+std::unique_ptr<Project> Busiest_project(QSize canvas) {
+    auto project = std::make_unique<Project>(Largest_project());
+    std::mt19937 random(1);
+    for (int polygon = 1; polygon <= MaxLWMCount; ++polygon) {
+        project->LWMCell(polygon, 0) = random() % 32;
+        project->LWMCell(polygon, 1) = random() % 32;
+        for (int point = 1; point <= MaxLWMPointCount; ++point)
+            for (const int axis : {0, 1}) project->LWMPoint(polygon, point, axis) = random() % 256;
+    }
+    project->ScaleX = static_cast<float>(canvas.width()) / 8192;
+    project->ScaleY = static_cast<float>(canvas.height()) / 8192;
+    return project;
+}
+
+// A picture with the detail of a scanned map, in a file of its own.
+class Scan {
+  public:
+    Scan(QSize size, const char* format) : path_(folder_ / "map." + format) {
+        QImage image(size, QImage::Format_Indexed8);
+        QList<QRgb> colours;
+        for (int i = 0; i < 256; ++i) colours << qRgb(i, 255 - i / 2, (i * 7) % 256);
+        image.setColorTable(colours);
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                image.scanLine(y)[x] = static_cast<uchar>((x / 3 + (y * y) / 900 + x * y / 70000));
+        image.save(To_qt(path_), format, 85);
+    }
+    const std::string& Path() const { return path_; }
+
+    static const Scan& Large(const char* format) {
+        static const Scan jpeg({10000, 10000}, "jpeg"), bmp({10000, 10000}, "bmp");
+        return format[0] == 'j' ? jpeg : bmp;
+    }
+
+  private:
+    TemporaryFolder folder_;
+    std::string path_;
+};
+
+struct OpenMap {
+    explicit OpenMap(const Scan& scan, QSize size = {10000, 10000})
+        : project(Busiest_project(size)) {
+        project->BackgroundFile = scan.Path();
+        view.resize(WindowSize);
+        view.show();
+        view.Load_Background();
+        Redraw();
+    }
+
+    void Redraw() {
+        Refresh_Graphics(*project, 500, view.Surface(), messages);
+        QCoreApplication::processEvents();
+    }
+
+    std::unique_ptr<Project> project;
+    RecordingMessages messages;
+    MapView view{*project, messages};
+    MapCanvas& canvas = *view.findChild<MapCanvas*>();
+};
+
+void Load(benchmark::State& state, const char* format) {
+    const std::string& path = Scan::Large(format).Path();
+    for (auto _ : state) {
+        Project project;
+        project.BackgroundFile = path;
+        RecordingMessages messages;
+        MapView view(project, messages);
+        view.resize(WindowSize);
+        view.Load_Background();
+        if (!project.BackgroundLoaded) state.SkipWithError("not loaded");
+    }
+}
+
+void Decode(benchmark::State& state, const char* format) {
+    const QString path = To_qt(Scan::Large(format).Path());
+    QImageReader::setAllocationLimit(0);
+    for (auto _ : state) benchmark::DoNotOptimize(QImageReader(path).read());
+}
+
+void Resize(benchmark::State& state) {
+    OpenMap map(Scan::Large("jpeg"));
+    int narrower = 0;
+    for (auto _ : state) {
+        map.view.resize(WindowSize - QSize(++narrower % 100, 0));
+        map.Redraw();
+    }
+}
+
+void Scroll(benchmark::State& state, const char* format) {
+    OpenMap map(Scan::Large(format));
+    auto& across = *map.view.findChild<QScrollBar*>("HScroll1");
+    auto& down = *map.view.findChild<QScrollBar*>("VScroll1");
+    int way = 0;
+    for (auto _ : state) {
+        way = (way + 48) % 8000;
+        across.setValue(way);
+        down.setValue(way);
+        QCoreApplication::processEvents();
+    }
+}
+
+// The lines of the project, each run of one pen together.
+class LineRuns : public DrawingSurface {
+  public:
+    struct Run {
+        QPen Pen;
+        std::vector<QLineF> Lines;
+    };
+    std::vector<Run> Runs;
+
+    void Erase() override {}
+    void Pen_width(int pixels) override {
+        pen_.setWidth(pixels);
+        Runs.push_back({pen_, {}});
+    }
+    void Pen_colour(Colour c) override {
+        pen_.setColor(QColor(c.Red, c.Green, c.Blue));
+        Runs.push_back({pen_, {}});
+    }
+    void Line(CanvasPoint from, CanvasPoint to) override {
+        Runs.back().Lines.emplace_back(from.X, from.Y, to.X, to.Y);
+    }
+    void Circle(CanvasPoint, double, Colour) override {}
+
+  private:
+    QPen pen_;
+};
+
+const Scan& Window_sized() {
+    static const Scan scan(WindowSize, "jpeg");
+    return scan;
+}
+
+void Redraw(benchmark::State& state) {
+    OpenMap map(Window_sized(), WindowSize);
+    for (auto _ : state) map.Redraw();
+}
+
+void Hand_to_painter(benchmark::State& state) {
+    LineRuns lines;
+    RecordingMessages messages;
+    Refresh_Graphics(*Busiest_project(WindowSize), -1, lines, messages);
+    QPixmap pixmap(WindowSize);
+    pixmap.fill();
+    for (auto _ : state) {
+        QPainter painter(&pixmap);
+        for (const LineRuns::Run& run : lines.Runs) {
+            painter.setPen(run.Pen);
+            painter.drawLines(run.Lines.data(), static_cast<int>(run.Lines.size()));
+        }
+    }
+}
+
+void Uncover(benchmark::State& state) {
+    OpenMap map(Window_sized(), WindowSize);
+    for (auto _ : state) map.canvas.repaint();
+}
+
+void Move_mouse(benchmark::State& state) {
+    OpenMap map(Window_sized(), WindowSize);
+    QLabel vtp, cell;
+    QObject::connect(&map.view, &MapView::Picture2_MouseMove, [&](float x, float y) {
+        const auto texts = Move_cursor(*map.project, x, y);
+        vtp.setText(To_qt(texts->VTP));
+        cell.setText(To_qt(texts->Cell));
+    });
+    int x = 0;
+    for (auto _ : state) {
+        const QPointF at(++x % 1500, 500);
+        QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(&map.canvas, &move);
+    }
+}
+
+template <class Function, class... Arguments>
+void Register(const char* name, Function function, Arguments... arguments) {
+    benchmark::RegisterBenchmark(name, function, arguments...)->UseRealTime();
+}
+
+const bool registered = [] {
+    Register("loading a 10,000 x 10,000 JPEG [1.1x]|tidemark", Load, "jpeg");
+    Register("loading a 10,000 x 10,000 JPEG [1.1x]|Qt's decoding", Decode, "jpeg");
+    Register("loading a 10,000 x 10,000 8-bit BMP [1.1x]|tidemark", Load, "bmp");
+    Register("loading a 10,000 x 10,000 8-bit BMP [1.1x]|Qt's decoding", Decode, "bmp");
+    Register("resizing the window over the JPEG [16 ms]|tidemark", Resize);
+    Register("a frame of scrolling the JPEG [16 ms]|tidemark", Scroll, "jpeg");
+    Register("a frame of scrolling the 8-bit BMP [16 ms]|tidemark", Scroll, "bmp");
+    Register("redrawing 47,000 lines in the window [1.3x]|tidemark", Redraw);
+    Register("redrawing 47,000 lines in the window [1.3x]|QPainter", Hand_to_painter);
+    Register("uncovering them|tidemark", Uncover);
+    Register("moving the mouse [50 us]|tidemark", Move_mouse);
+    return true;
+}();
+
+}  // namespace
+}  // namespace tidemark

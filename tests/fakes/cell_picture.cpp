@@ -1,0 +1,78 @@
+#include "fakes/cell_picture.h"
+
+#include <sstream>
+
+#include "fakes/sample_projects.h"
+#include "model/cell_frame.h"
+#include "model/drawing_modes.h"
+
+namespace tidemark {
+
+namespace {
+
+std::unique_ptr<Project> Empty_cell(CellPoint click) {
+    auto project = std::make_unique<Project>();
+    project->BGLOD13tlX = PictureColumn - 2;
+    project->BGLOD13tlY = PictureRow - 1;
+    project->BGLOD13brX = project->BGLOD13brY = LastLOD13;
+    project->AreaLeftVTP = Cell_edge_VTP(project->BGLOD13tlX);
+    project->AreaTopVTP = Cell_edge_VTP(project->BGLOD13tlY);
+    project->CursorCellX = PictureColumn;
+    project->CursorCellY = PictureRow;
+    project->CursorInCellX = click.X;
+    project->CursorInCellY = click.Y;
+    project->DrawMode = WaterPolygon;
+    return project;
+}
+
+}  // namespace
+
+std::vector<CellPoint> Points_from(std::string_view text) {
+    std::vector<CellPoint> points;
+    std::istringstream stream{std::string(text)};
+    int x = 0;
+    int y = 0;
+    for (char comma = 0; stream >> x >> comma >> y;) points.push_back({x, y});
+    return points;
+}
+
+std::string Points_text(std::span<const CellPoint> points) {
+    std::ostringstream text;
+    for (const CellPoint& p : points)
+        text << (&p == points.data() ? "" : " ") << int{p.X} << ',' << int{p.Y};
+    return text.str();
+}
+
+void Add_line(Project& project, int mode, std::span<const CellPoint> points) {
+    std::vector<std::pair<int, int>> places;
+    for (const CellPoint& p : points)
+        places.emplace_back(Cell_edge_VTP(PictureColumn) + p.X, Cell_edge_VTP(PictureRow) + p.Y);
+    Add_segment(project, mode, 80, places);
+}
+
+std::unique_ptr<Project> Cell_project(std::string_view lines, CellPoint click) {
+    auto project = Empty_cell(click);
+    std::istringstream stream{std::string(lines)};
+    for (std::string line; std::getline(stream, line, '|');) {
+        const auto colon = line.find(':');
+        const int mode = colon == line.npos ? 0 : std::stoi(line);
+        Add_line(*project, mode, Points_from(colon == line.npos ? line : line.substr(colon + 1)));
+    }
+    return project;
+}
+
+std::unique_ptr<Project> Cell_project(const std::vector<std::vector<CellPoint>>& coastlines,
+                                      CellPoint click) {
+    auto project = Empty_cell(click);
+    for (const auto& line : coastlines) Add_line(*project, 0, line);
+    return project;
+}
+
+Outline LWM_outline(const Project& project, int polygon) {
+    Outline outline;
+    for (int k = 1; k <= project.LWMPointCount(polygon); ++k)
+        outline.push_back({project.LWMPoint(polygon, k, 0), project.LWMPoint(polygon, k, 1)});
+    return outline;
+}
+
+}  // namespace tidemark
