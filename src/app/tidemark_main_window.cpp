@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QStatusBar>
 
@@ -172,8 +173,9 @@ void TidemarkMain::Open(const QString& path) {
 }
 
 void TidemarkMain::FileSave_Click() {
+    const std::string before = project_->ProjectFile;
     Save_project(*project_, platform_);
-    if (!project_->ProjectFile.empty()) Show_title(project_->ProjectFile);
+    if (project_->ProjectFile != before) Show_title(project_->ProjectFile);
     Refresh_Graphics();
 }
 
@@ -199,6 +201,8 @@ void TidemarkMain::VTPsave_Click() {
 }
 
 void TidemarkMain::Run_after_save(const AfterSaveTask& task) {
+    setAcceptDrops(false);  // a drop comes through even while all other input waits
+    const auto accept_again = qScopeGuard([this] { setAcceptDrops(true); });
     QtPatience patience(*statusBar());
     After_save(task, messages_, files_, programs_, patience);
 }

@@ -55,7 +55,7 @@ void LWMFrame::Add_LWM_Poly() {
         tidemark::Add_LWM_Poly(project_, messages_, choice, From_qt(PolyHeightText_->text()));
     PolyHeightText_->setText(To_qt(result.HeightText));
     Refresh_LWM_List();
-    if (!result.StatusLine.empty()) Q_EMIT Remarked(To_qt(result.StatusLine));
+    Q_EMIT Remarked(To_qt(result.StatusLine));
 }
 
 void LWMFrame::Refresh_LWM_List() {

@@ -29,7 +29,7 @@ VTPFrame::VTPFrame(Project& project, Messages& messages, QWidget* parent)
       messages_(messages),
       VTPlistbox_(new ListBox("VTPlistbox", "VTP points and segments")),
       NewSegment_(new QCheckBox("Start new segment")),
-      VTPwidthText_(new QLineEdit("80")) {
+      VTPwidthText_(new QLineEdit(To_qt(DefaultVTPWidthText))) {
     Lay_out();
     connect(VTPlistbox_, &ListBox::Clicked, this, &VTPFrame::Graphics_outdated);
     connect(VTPlistbox_, &ListBox::Key_pressed, this, &VTPFrame::VTPlistbox_KeyDown);

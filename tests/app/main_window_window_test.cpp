@@ -122,6 +122,16 @@ TEST_F(MainWindowTest, ARefusedFileIsNamedInTheStatusBarAndTheProjectStays) {
     EXPECT_TRUE(window_.Current_project() == before);
 }
 
+TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpenedUnder) {
+    const QString moved = QString::fromStdString(folder_ / "moved.tdm");
+    ASSERT_TRUE(QFile::copy(Write_project("stored.tdm"), moved));
+    window_.Open(moved);
+    plan_.Then_answer(QMessageBox::No);
+    Choose_entry(window_, "FileMenu", "FileSave");
+    EXPECT_TRUE(plan_.Messages().at(0).contains("stored.tdm - file exists - overwrite?"));
+    EXPECT_EQ(window_.windowTitle(), "Tidemark - MOVED.TDM");
+}
+
 TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndOtherThingsCannot) {
     const auto drop = [this](const QStringList& paths) {
         QMimeData data;
