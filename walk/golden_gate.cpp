@@ -178,6 +178,7 @@ void Walk::Clear_what_is_there() {
 }
 
 void Walk::Save_the_project() {
+    QFile::remove("north-shore.TDM");  // of an earlier walk, which would have to be overwritten
     Plan plan;
     plan.Then_choose(QDir::current().absoluteFilePath("north-shore")).Then_answer();
     Choose_entry(window_, "FileMenu", "FileSaveAs");
