@@ -10,8 +10,8 @@ int main(int argc, char** argv) {
     const tidemark::FirstPaint first_paint(application);
     QMainWindow window;
     QWidget tool(&window, Qt::Tool);
-    window.resize(1000, 800);
-    tool.resize(300, 800);
+    window.resize(1280, 960);  // the editor's sizes
+    tool.resize(332, 960);
     if (argc > 1) window.setCentralWidget(new QLabel(argv[1]));
     window.show();
     tool.show();

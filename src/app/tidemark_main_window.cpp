@@ -75,9 +75,7 @@ TidemarkMain::TidemarkMain()
       choosers_(*this),
       platform_{messages_, choosers_, files_, clock_, programs_, From_qt(QDir::currentPath())},
       map_(new MapView(*project_, messages_, this)),
-      status_(new Status(*project_, messages_, this)),
-      edit_point_(new EditPoint(*project_, messages_, this)),
-      calculator_(new CellCalculator(*project_, messages_, this)) {
+      status_(new Status(*project_, messages_, this)) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);
