@@ -94,6 +94,13 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
     QListView::keyPressEvent(event);
 }
 
+// Of lines that are still to be laid out the view would make one current and select another: the
+// layout scrolls in between.
+void ListBox::mousePressEvent(QMouseEvent* event) {
+    executeDelayedItemsLayout();
+    QListView::mousePressEvent(event);
+}
+
 // The view would make the first line current, as if it had been chosen.
 void ListBox::focusInEvent(QFocusEvent* event) {
     QListView::focusInEvent(event);

@@ -34,6 +34,7 @@ class ListBox : public QListView {
   protected:
     QSize sizeHint() const override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
