@@ -9,6 +9,7 @@
 #include <QScopeGuard>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 
 #include "app/project_commands.h"
 #include "model/path_text.h"
@@ -274,7 +275,8 @@ void TidemarkMain::dropEvent(QDropEvent* event) {
     const QString path = Dragged_project(*event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    Open(path);
+    // Later, so that the program it was dragged from does not wait for the boxes that may come up.
+    QTimer::singleShot(0, this, [this, path] { Open(path); });
 }
 
 }  // namespace tidemark

@@ -143,6 +143,7 @@ TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndOtherThingsCannot) {
         enter.ignore();
         QCoreApplication::sendEvent(&window_, &enter);
         QCoreApplication::sendEvent(&window_, &drop_event);
+        QCoreApplication::processEvents();
         return enter.isAccepted();
     };
     const QString path = Write_project("Dropped.TDM");
