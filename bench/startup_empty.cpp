@@ -1,7 +1,7 @@
 // The start-up of an empty Qt program with a main window and a tool window; with an argument, the
-// main window shows that one line, for which Qt has to load its fonts.
-#include <QLabel>
+// main window has a menu bar with that one word, for which Qt loads its fonts and image plugins.
 #include <QMainWindow>
+#include <QMenuBar>
 
 #include "first_paint.h"
 
@@ -10,9 +10,9 @@ int main(int argc, char** argv) {
     const tidemark::FirstPaint first_paint(application);
     QMainWindow window;
     QWidget tool(&window, Qt::Tool);
-    window.resize(1000, 800);
-    tool.resize(300, 800);
-    if (argc > 1) window.setCentralWidget(new QLabel(argv[1]));
+    window.resize(1280, 960);  // the editor's sizes
+    tool.resize(332, 960);
+    if (argc > 1) window.menuBar()->addMenu(argv[1]);
     window.show();
     tool.show();
     return QApplication::exec();

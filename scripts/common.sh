@@ -9,7 +9,7 @@ fail() {
 }
 
 build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev"
-walk_packages="xvfb xauth openbox fonts-dejavu-core"
+walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev"
 check_packages="clang-format clang-tidy clang libclang-rt-14-dev"
 

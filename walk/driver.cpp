@@ -189,7 +189,9 @@ QPixmap Screen_picture() {
 QPixmap Picture_of(const QList<QWidget*>& windows) {
     QRect part;
     for (const QWidget* window : windows) part |= window->frameGeometry();
-    return Screen_picture().copy(part);
+    const QPixmap screen = Screen_picture();
+    const qreal ratio = screen.devicePixelRatio();  // of the picture's pixels to the windows' own
+    return screen.copy(QRectF(part.topLeft() * ratio, part.size() * ratio).toRect());
 }
 
 }  // namespace tidemark

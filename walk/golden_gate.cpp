@@ -61,6 +61,7 @@ class Walk {
         Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), mode);
     }
     QPoint Pixel(const MapPlace& place);
+    void Scroll_to(QPoint top_left);
     void Click_map(const MapPlace& place, Qt::MouseButton button = Qt::LeftButton);
     void Move_point(const MapPlace& near, int in_cell_x, const QString& picture);
     void Save_file(const char* entry, const QString& name);
@@ -70,14 +71,18 @@ class Walk {
     QWidget& canvas_;
 };
 
-// Scrolls so that the place is well inside the view.
+// Scrolls to the place unless it is in view, and away from the window's edges.
 QPoint Walk::Pixel(const MapPlace& place) {
     const double x = place.Column * CellSizeVTP + place.X;
     const double y = place.Row * CellSizeVTP + place.Y;
     const QPoint pixel(qRound(x * Now().ScaleX), qRound(y * Now().ScaleY));
-    Control<QScrollBar>(window_, "HScroll1").setValue(1300);
-    Control<QScrollBar>(window_, "VScroll1").setValue(700);
+    if (!canvas_.visibleRegion().contains(pixel)) Scroll_to(pixel - QPoint(200, 200));
     return pixel;
+}
+
+void Walk::Scroll_to(QPoint top_left) {
+    Control<QScrollBar>(window_, "HScroll1").setValue(top_left.x());
+    Control<QScrollBar>(window_, "VScroll1").setValue(top_left.y());
 }
 
 void Walk::Click_map(const MapPlace& place, Qt::MouseButton button) {
@@ -106,6 +111,7 @@ void Walk::Load_the_map() {
     plan.Finish();
     Check(Now().BackgroundLoaded && Now().BGLOD8X == 122 && Now().BGLOD8Y == 148,
           "the map was not loaded and placed");
+    Scroll_to({1300, 700});
 }
 
 void Walk::Draw_the_shore() {
@@ -172,6 +178,7 @@ void Walk::Clear_what_is_there() {
 }
 
 void Walk::Save_the_project() {
+    QFile::remove("north-shore.TDM");  // of an earlier walk, which would have to be overwritten
     Plan plan;
     plan.Then_choose(QDir::current().absoluteFilePath("north-shore")).Then_answer();
     Choose_entry(window_, "FileMenu", "FileSaveAs");
@@ -209,8 +216,7 @@ void Walk::Open_the_sample() {
     Choose_entry(window_, "FileMenu", "FileOpen");
     plan.Finish();
     Check(window_.windowTitle() == "Tidemark - GOLDEN-GATE.TDM", "the sample was not opened");
-    Control<QScrollBar>(window_, "HScroll1").setValue(700);
-    Control<QScrollBar>(window_, "VScroll1").setValue(500);
+    Scroll_to({700, 500});
     Take_picture("main-window");
     Save_file("VTPsave", "golden-gate-VTP.asm");
 }

@@ -6,10 +6,10 @@
 
 namespace {
 
-constexpr int exit_refused = 1;
-constexpr int exit_usage = 2;
+constexpr int ExitRefused = 1;
+constexpr int ExitUsage = 2;
 
-constexpr const char* usage =
+constexpr const char* Usage =
     "Usage: tidemark-asm [--output-folder DIR] PROJECT.TDM...\n"
     "Writes the VTP and LWM assembler files of Tidemark projects.\n"
     "\n"
@@ -31,21 +31,21 @@ int main(int argc, char** argv) {
                 task.OutputFolder = optarg;
                 break;
             case 'h':
-                std::cout << usage;
+                std::cout << Usage;
                 return 0;
             case 'v':
                 std::cout << "tidemark-asm " TIDEMARK_VERSION "\n";
                 return 0;
             default:
-                std::cerr << usage;
-                return exit_usage;
+                std::cerr << Usage;
+                return ExitUsage;
         }
     }
     task.Projects.assign(argv + optind, argv + argc);
     if (task.Projects.empty()) {
-        std::cerr << usage;
-        return exit_usage;
+        std::cerr << Usage;
+        return ExitUsage;
     }
     tidemark::DiskFiles files;
-    return Write_assembler_files(task, files, std::cout, std::cerr) ? 0 : exit_refused;
+    return Write_assembler_files(task, files, std::cout, std::cerr) ? 0 : ExitRefused;
 }

@@ -1,6 +1,7 @@
 // tidemark: the editor.
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QTimer>
 
 #include "app/qt_application.h"
 #include "app/tidemark_main_window.h"
@@ -31,6 +32,9 @@ int main(int argc, char** argv) {
     tidemark::TidemarkApplication application(argc, argv);
     tidemark::TidemarkMain window;
     window.show();
-    for (const QString& path : projects) window.Open(QFileInfo(path).absoluteFilePath());
+    // Opened by an event, so that an error is caught as in any other.
+    for (const QString& path : projects)
+        QTimer::singleShot(0, &window,
+                           [&window, path] { window.Open(QFileInfo(path).absoluteFilePath()); });
     return QApplication::exec();
 }

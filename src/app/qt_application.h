@@ -5,8 +5,9 @@
 
 namespace tidemark {
 
-// An exception that leaves an event handler is caught here and shown in a plain box; the program
-// goes on with the project as it was before that event.
+// An exception that leaves an event handler is caught here and shown in a plain box, and the
+// program goes on. Rules work out what can fail before they change anything, so the project is then
+// as it was before that event.
 class TidemarkApplication : public QApplication {
     Q_OBJECT
 

@@ -5,15 +5,16 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "platform/qt_controls.h"
+
 namespace tidemark {
 
 namespace {
 
 // A frame with one line about the cursor. The line does not widen the panel as it changes.
-QLabel* Add_cursor_frame(QVBoxLayout& column, const QString& caption, const QString& name) {
+QLabel* Add_cursor_frame(QVBoxLayout& column, const QString& caption, const char* name) {
     auto* const frame = new QGroupBox(caption);
-    auto* const label = new QLabel("--", frame);
-    label->setObjectName(name);
+    auto* const label = Named<QLabel>(name, "--");
     label->setAccessibleName(caption);
     label->setTextFormat(Qt::PlainText);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -23,9 +24,8 @@ QLabel* Add_cursor_frame(QVBoxLayout& column, const QString& caption, const QStr
     return label;
 }
 
-QPushButton* Add_button(QHBoxLayout& row, const QString& caption, const QString& name) {
-    auto* const button = new QPushButton(caption);
-    button->setObjectName(name);
+QPushButton* Add_button(QHBoxLayout& row, const char* name, const QString& caption) {
+    auto* const button = Named<QPushButton>(name, caption);
     row.addWidget(button);
     return button;
 }
@@ -51,9 +51,9 @@ Status::Status(Project& project, Messages& messages, QWidget* owner)
     auto* const buttons = new QHBoxLayout;
     column->addLayout(buttons);
 
-    const auto* const refresh = Add_button(*buttons, "Refresh Graphics", "RefreshButton");
+    const auto* const refresh = Add_button(*buttons, "RefreshButton", "Refresh Graphics");
     connect(refresh, &QPushButton::clicked, this, &Status::RefreshButton_Click);
-    const auto* const hide_button = Add_button(*buttons, "Hide Status Panel", "HideButton");
+    const auto* const hide_button = Add_button(*buttons, "HideButton", "Hide Status Panel");
     connect(hide_button, &QPushButton::clicked, this, &Status::hide);
 
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, vtp_, &VTPFrame::Start_new_segment);

@@ -6,8 +6,10 @@
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 
 #include "app/project_commands.h"
 #include "model/path_text.h"
@@ -74,9 +76,7 @@ TidemarkMain::TidemarkMain()
       choosers_(*this),
       platform_{messages_, choosers_, files_, clock_, programs_, From_qt(QDir::currentPath())},
       map_(new MapView(*project_, messages_, this)),
-      status_(new Status(*project_, messages_, this)),
-      edit_point_(new EditPoint(*project_, messages_, this)),
-      calculator_(new CellCalculator(*project_, messages_, this)) {
+      status_(new Status(*project_, messages_, this)) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);
@@ -172,8 +172,9 @@ void TidemarkMain::Open(const QString& path) {
 }
 
 void TidemarkMain::FileSave_Click() {
+    const std::string before = project_->ProjectFile;
     Save_project(*project_, platform_);
-    if (!project_->ProjectFile.empty()) Show_title(project_->ProjectFile);
+    if (project_->ProjectFile != before) Show_title(project_->ProjectFile);
     Refresh_Graphics();
 }
 
@@ -199,6 +200,8 @@ void TidemarkMain::VTPsave_Click() {
 }
 
 void TidemarkMain::Run_after_save(const AfterSaveTask& task) {
+    setAcceptDrops(false);  // a drop comes through even while all other input waits
+    const auto accept_again = qScopeGuard([this] { setAcceptDrops(true); });
     QtPatience patience(*statusBar());
     After_save(task, messages_, files_, programs_, patience);
 }
@@ -272,7 +275,8 @@ void TidemarkMain::dropEvent(QDropEvent* event) {
     const QString path = Dragged_project(*event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
-    Open(path);
+    // Later, so that the program it was dragged from does not wait for the boxes that may come up.
+    QTimer::singleShot(0, this, [this, path] { Open(path); });
 }
 
 }  // namespace tidemark

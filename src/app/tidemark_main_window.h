@@ -76,6 +76,8 @@ class TidemarkMain : public QMainWindow {
     void Refresh_Graphics();
 
     QAction& Entry(const char* name) const;
+    EditPoint& Edit_point_dialog();
+    CellCalculator& Calculator();
     void Show_title(const std::string& project_path);
     void Run_after_save(const AfterSaveTask& task);
     void Show_help_document(const HelpDocument& document);
@@ -89,8 +91,10 @@ class TidemarkMain : public QMainWindow {
     Platform platform_;
     MapView* map_;
     Status* status_;
-    EditPoint* edit_point_;
-    CellCalculator* calculator_;
+    // Made when they are first used, so that start-up does not wait for them; kept from then on.
+    EditPoint* edit_point_ = nullptr;
+    CellCalculator* calculator_ = nullptr;
+    bool redrawing_ = false;
 };
 
 }  // namespace tidemark

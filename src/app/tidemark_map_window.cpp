@@ -1,4 +1,6 @@
 // The main window's handlers for the map and what is done on it.
+#include <QScopeGuard>
+
 #include "app/tidemark_main_window.h"
 #include "canvas/background.h"
 #include "canvas/click.h"
@@ -19,13 +21,13 @@ void TidemarkMain::BackgroundLoad_Click() {
 }
 
 void TidemarkMain::BackgroundProperties_Click() {
-    Show_background_properties(*project_, messages_, *calculator_, map_->Canvas_size(), this);
+    Show_background_properties(*project_, messages_, Calculator(), map_->Canvas_size(), this);
     Refresh_Graphics();
 }
 
 void TidemarkMain::CellCalc_Click() {
     project_->CalcFromBGproperties = false;
-    calculator_->exec();
+    Calculator().exec();
     Refresh_Graphics();
 }
 
@@ -76,8 +78,18 @@ void TidemarkMain::Picture2_KeyDown(int key_code) {
 
 void TidemarkMain::EditButton_Click() {
     const int selected = status_->VTP().Selected();
-    if (selected < 0 || !edit_point_->Edit(selected + 1)) return;
+    if (selected < 0 || !Edit_point_dialog().Edit(selected + 1)) return;
     status_->VTP().Refresh_VTP_List();
+}
+
+EditPoint& TidemarkMain::Edit_point_dialog() {
+    if (!edit_point_) edit_point_ = new EditPoint(*project_, messages_, this);
+    return *edit_point_;
+}
+
+CellCalculator& TidemarkMain::Calculator() {
+    if (!calculator_) calculator_ = new CellCalculator(*project_, messages_, this);
+    return *calculator_;
 }
 
 void TidemarkMain::Refresh_lists() {
@@ -86,7 +98,12 @@ void TidemarkMain::Refresh_lists() {
     status_->Kill().Refresh_Kill_List();
 }
 
+// A box that comes up in the middle of a redraw lets other events through, which may ask for
+// another one; the redraw that waits for the box shows all there is then.
 void TidemarkMain::Refresh_Graphics() {
+    if (redrawing_) return;
+    redrawing_ = true;
+    const auto done = qScopeGuard([this] { redrawing_ = false; });
     tidemark::Refresh_Graphics(*project_, status_->VTP().Selected(), map_->Surface(), messages_);
 }
 

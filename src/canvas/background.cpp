@@ -1,5 +1,7 @@
 #include "canvas/background.h"
 
+#include "model/project_file.h"
+
 namespace tidemark {
 
 namespace {
@@ -28,6 +30,10 @@ bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
     chooser.InitialFolder = start_folder;
     const auto path = choosers.Choose(chooser);
     if (!path) return false;
+    if (!Is_savable(*path)) {
+        Warn(messages, UnsavableNameText);
+        return false;
+    }
     project.BackgroundFile = *path;
     return true;
 }

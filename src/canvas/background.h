@@ -12,7 +12,8 @@ namespace tidemark {
 
 // Asks for a background image; its path becomes BackgroundFile. Unsaved changes are cleared first
 // when the user agrees: the georeference and all points, polygons and cleared cells. False when the
-// user answers No or cancels; what was cleared stays cleared.
+// user answers No or cancels, or when the path cannot stand in a project file (Warn); what was
+// cleared stays cleared.
 bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
                        const std::string& start_folder);
 

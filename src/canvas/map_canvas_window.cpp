@@ -81,7 +81,10 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void MapCanvas::keyPressEvent(QKeyEvent* event) {
-    if (const int key_code = Key_code(*event))
+    const int key_code = Key_code(*event);
+    // Held down, E would type into the dialog that it opens.
+    if (key_code == KeyE && event->isAutoRepeat()) return;
+    if (key_code)
         Q_EMIT Key_pressed(key_code);
     else
         QWidget::keyPressEvent(event);

@@ -91,27 +91,41 @@ CanvasPoint LWM_point(const Project& p, int polygon, int point) {
                           p.LWMPoint(polygon, point, 0), p.LWMPoint(polygon, point, 1));
 }
 
-void Draw_polygons(const Project& p, DrawingSurface& surface) {
-    for (int polygon = 1; polygon <= p.LWMCount; ++polygon) {
-        const int count = p.LWMPointCount(polygon);
-        if (count < 1) continue;
-        surface.Pen_colour(p.LWMType(polygon) == LandPolygon ? LightGreen : LightBlue);
-        const CanvasPoint first = LWM_point(p, polygon, 1);
-        CanvasPoint last = first;
-        for (int point = 2; point <= count; ++point) {
-            const CanvasPoint next = LWM_point(p, polygon, point);
-            surface.Line(last, next);
-            last = next;
-        }
-        surface.Line(first, last);
+// Draws something as far as its positions fit 16 bits; what lies beyond is far from any map.
+template <class Draw>
+void Draw_what_fits(const Draw& draw) {
+    try {
+        draw();
+    } catch (const Overflow&) {
+        // Left out: one such entry must not keep the rest of the project from being seen and
+        // mended.
     }
+}
+
+void Draw_polygon(const Project& p, int polygon, DrawingSurface& surface) {
+    const int count = p.LWMPointCount(polygon);
+    if (count < 1) return;
+    surface.Pen_colour(p.LWMType(polygon) == LandPolygon ? LightGreen : LightBlue);
+    const CanvasPoint first = LWM_point(p, polygon, 1);
+    CanvasPoint last = first;
+    for (int point = 2; point <= count; ++point) {
+        const CanvasPoint next = LWM_point(p, polygon, point);
+        surface.Line(last, next);
+        last = next;
+    }
+    surface.Line(first, last);
+}
+
+void Draw_polygons(const Project& p, DrawingSurface& surface) {
+    for (int polygon = 1; polygon <= p.LWMCount; ++polygon)
+        Draw_what_fits([&] { Draw_polygon(p, polygon, surface); });
 }
 
 void Draw_segments(const Project& p, DrawingSurface& surface, Messages& messages) {
     bool reported = false;
     for (int i = 1; i <= p.VTPCount; ++i) {
         if (!p.VTPSegStart(i)) {
-            if (i >= 2) surface.Line(VTP_point(p, i - 1), VTP_point(p, i));
+            if (i >= 2) Draw_what_fits([&] { surface.Line(VTP_point(p, i - 1), VTP_point(p, i)); });
             continue;
         }
         if (const SegmentPen* pen = Find_code(SegmentPens, p.VTPMode(i))) {
@@ -124,6 +138,16 @@ void Draw_segments(const Project& p, DrawingSurface& surface, Messages& messages
     }
 }
 
+void Draw_mark(const Project& p, int entry, Int16 half_size, DrawingSurface& surface) {
+    const Int16 x = Cell_edge_VTP(p.KillCell(entry, 0)) + CellSizeVTP / 2;
+    const Int16 y = Cell_edge_VTP(p.KillCell(entry, 1)) + CellSizeVTP / 2;
+    const auto corner = [&](int across, int down) {
+        return VTP_to_canvas(p, x + across * half_size, y + down * half_size);
+    };
+    for (const MarkLine& line : MarkLines)
+        surface.Line(corner(line.FromX, line.FromY), corner(line.ToX, line.ToY));
+}
+
 void Draw_cleared_cells(const Project& p, DrawingSurface& surface) {
     if (p.KillCount < 1) return;
     surface.Pen_width(ClearedCellWidth);
@@ -133,20 +157,14 @@ void Draw_cleared_cells(const Project& p, DrawingSurface& surface) {
             surface.Pen_colour(mark->Ink);
             half_size = mark->HalfSize;
         }
-        const Int16 x = Cell_edge_VTP(p.KillCell(k, 0)) + CellSizeVTP / 2;
-        const Int16 y = Cell_edge_VTP(p.KillCell(k, 1)) + CellSizeVTP / 2;
-        const auto corner = [&](int across, int down) {
-            return VTP_to_canvas(p, x + across * half_size, y + down * half_size);
-        };
-        for (const MarkLine& line : MarkLines)
-            surface.Line(corner(line.FromX, line.FromY), corner(line.ToX, line.ToY));
+        Draw_what_fits([&] { Draw_mark(p, k, half_size, surface); });
     }
 }
 
 void Mark_selected_point(const Project& p, int selected, DrawingSurface& surface) {
     if (selected < 0 || selected >= p.VTPCount) return;
     surface.Pen_width(SelectionWidth);
-    surface.Circle(VTP_point(p, selected + 1), SelectionRadius, LightRed);
+    Draw_what_fits([&] { surface.Circle(VTP_point(p, selected + 1), SelectionRadius, LightRed); });
 }
 
 }  // namespace

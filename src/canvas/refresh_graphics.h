@@ -12,7 +12,7 @@ namespace tidemark {
 // list, counted from 0; outside the list nothing is marked.
 //
 // A segment whose mode has no pen keeps the pen before it and is reported, once a redraw, in the
-// plain box. Throws Overflow when a position of the project does not fit 16 bits.
+// plain box. What has a position that does not fit 16 bits is left out.
 void Refresh_Graphics(const Project& project, int selected, DrawingSurface& surface,
                       Messages& messages);
 

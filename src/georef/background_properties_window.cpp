@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "model/text_forms.h"
+#include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -30,16 +31,10 @@ constexpr std::array<FieldLabel, GeoreferenceFields.size()> FieldLabels{{
     {"Bottom-right Y = ", "Bottom-right LOD 13 row"},
 }};
 
-QLabel* Label(const char* name) {
-    auto* const label = new QLabel;
-    label->setObjectName(name);
-    return label;
-}
-
 // A label as wide as its longest ordinary text, whatever it holds, so that the dialog does not
 // change its size while the user types.
 QLabel* Place_label(const char* name) {
-    QLabel* const label = Label(name);
+    auto* const label = Named<QLabel>(name);
     const CellPlace longest = Place_of_cell("0", "0");
     label->setMinimumWidth(label->fontMetrics().horizontalAdvance(To_qt(longest.LonLabel)));
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -54,15 +49,12 @@ BGproperties::BGproperties(Project& project, CellCalculator& calculator, QWidget
       calculator_(calculator),
       LatLabel_(Place_label("LatLabel")),
       LonLabel_(Place_label("LonLabel")),
-      HiddenLat_(Label("HiddenLat")),
-      HiddenLon_(Label("HiddenLon")) {
+      HiddenLat_(Named<QLabel>("HiddenLat")),
+      HiddenLon_(Named<QLabel>("HiddenLon")) {
     setObjectName("BGproperties");
     setWindowTitle("Tidemark - Background Properties");
-    for (std::size_t i = 0; i < fields_.size(); ++i) {
-        fields_[i] = new QLineEdit;
-        fields_[i]->setObjectName(GeoreferenceFields[i].Name);
-        fields_[i]->setAccessibleName(FieldLabels[i].Spoken);
-    }
+    for (std::size_t i = 0; i < fields_.size(); ++i)
+        fields_[i] = Named_field(GeoreferenceFields[i].Name, FieldLabels[i].Spoken);
     Lay_out();
     connect(fields_[LOD8X], &QLineEdit::textChanged, this, &BGproperties::LOD8X_Change);
     connect(fields_[LOD8Y], &QLineEdit::textChanged, this, &BGproperties::LOD8X_Change);

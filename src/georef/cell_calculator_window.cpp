@@ -5,18 +5,12 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
 
 namespace {
-
-QLineEdit* Field(const char* name, const char* spoken, const std::string& text) {
-    auto* const field = new QLineEdit(To_qt(text));
-    field->setObjectName(name);
-    field->setAccessibleName(spoken);
-    return field;
-}
 
 QComboBox* Hemispheres(const char* name, const char* spoken, const QStringList& items) {
     auto* const combo = new QComboBox;
@@ -32,9 +26,9 @@ CellCalculator::CellCalculator(const Project& project, Messages& messages, QWidg
     : QDialog(owner),
       project_(project),
       messages_(messages),
-      CalcLatText_(Field("CalcLatText", "Latitude", CalculatorTexts().Latitude)),
+      CalcLatText_(Named_field("CalcLatText", "Latitude", To_qt(LatitudeTemplate))),
       NScombo_(Hemispheres("NScombo", "North or south", {"N", "S"})),
-      CalcLonText_(Field("CalcLonText", "Longitude", CalculatorTexts().Longitude)),
+      CalcLonText_(Named_field("CalcLonText", "Longitude", To_qt(LongitudeTemplate))),
       EWcombo_(Hemispheres("EWcombo", "East or west", {"E", "W"})) {
     setObjectName("CellCalculator");
     setWindowTitle("Tidemark - Cell Calculator");

@@ -34,19 +34,17 @@ CellPoint Crossing(CellPoint a, CellPoint outside, Int16 ddx, Int16 ddy) {
 CellEdges::CellEdges(Project& project, Messages& messages)
     : project_(project),
       messages_(messages),
-      cell_x_(project.CursorCellX),
-      cell_y_(project.CursorCellY) {}
+      column_(project.CursorCellX - project.BGLOD13tlX),
+      row_(project.CursorCellY - project.BGLOD13tlY) {}
 
 bool CellEdges::Point_in_cell(int i) {
     if (i < 1 || i > project_.VTPCount) return false;
     const Int16 dx = project_.VTPPoint(i, 0) - project_.AreaLeftVTP;
+    if (Whole_cells(dx) != column_) return false;
     const Int16 dy = project_.VTPPoint(i, 1) - project_.AreaTopVTP;
-    const Int16 column = Whole_cells(dx);
-    const Int16 row = Whole_cells(dy);
-    if (project_.BGLOD13tlX + column != cell_x_ || project_.BGLOD13tlY + row != cell_y_)
-        return false;
-    project_.PointInCellX = In_cell(dx, column);
-    project_.PointInCellY = In_cell(dy, row);
+    if (Whole_cells(dy) != row_) return false;
+    project_.PointInCellX = In_cell(dx, column_);
+    project_.PointInCellY = In_cell(dy, row_);
     return true;
 }
 

@@ -92,7 +92,7 @@ class CellEdges {
   private:
     Project& project_;
     Messages& messages_;
-    const Int16 cell_x_, cell_y_;
+    const Int16 column_, row_;  // of the cell, from the area's north-west corner
     Table<int, MaxEdgePointCount> link_;
     // The edge points whose link is e, from the largest number down: last_linked_(e), then
     // earlier_linked_ of that one, and so on.

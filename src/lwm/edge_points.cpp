@@ -69,12 +69,15 @@ class CoastWalk {
     bool outside_ = true;
 };
 
-// Makes the chain that begins at a end there.
+// Makes the chain that begins at a end there. A chain that has no boundary point, because the flags
+// of its segment do not agree, is reversed whole: behind its last point only the reversed
+// predecessor is found.
 void Reverse_chain_from(CellEdges& edges, int a) {
     for (int e = a; e != 0;) {
-        const int next = Is_edge(edges.EdgePointType(e)) ? 0 : edges.Next_edge_point(e);
-        edges.Set_link(e, next);
-        e = next;
+        const int next = edges.Next_edge_point(e);
+        const bool goes_on = !Is_edge(edges.EdgePointType(e)) && next > e;
+        edges.Set_link(e, goes_on ? next : 0);
+        e = goes_on ? next : 0;
     }
 }
 

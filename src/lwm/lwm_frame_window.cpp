@@ -5,6 +5,7 @@
 #include "lwm/lwm_list.h"
 #include "lwm/polygon_builder.h"
 #include "model/list_selection.h"
+#include "platform/qt_controls.h"
 #include "platform/qt_keys.h"
 #include "platform/qt_text.h"
 
@@ -15,9 +16,9 @@ LWMFrame::LWMFrame(Project& project, Messages& messages, QWidget* parent)
       project_(project),
       messages_(messages),
       LWMlistBox_(new ListBox("LWMlistBox", "LWM polygons")),
-      HeightOption_(new QRadioButton("Set to height (m):")),
-      PolyHeightText_(new QLineEdit("0")),
-      ConformOption_(new QRadioButton("Conform to existing terrain")) {
+      HeightOption_(Named<QRadioButton>("HeightOption", "Set to height (m):")),
+      PolyHeightText_(Named_field("PolyHeightText", "Height in metres", "0")),
+      ConformOption_(Named<QRadioButton>("ConformOption", "Conform to existing terrain")) {
     Lay_out();
     connect(LWMlistBox_, &ListBox::Clicked, this, &LWMFrame::Graphics_outdated);
     connect(LWMlistBox_, &ListBox::Key_pressed, this, &LWMFrame::LWMlistBox_KeyDown);
@@ -26,11 +27,6 @@ LWMFrame::LWMFrame(Project& project, Messages& messages, QWidget* parent)
 }
 
 void LWMFrame::Lay_out() {
-    HeightOption_->setObjectName("HeightOption");
-    ConformOption_->setObjectName("ConformOption");
-    PolyHeightText_->setObjectName("PolyHeightText");
-    PolyHeightText_->setAccessibleName("Height in metres");
-
     auto* const grid = new QGridLayout(this);
     grid->addWidget(LWMlistBox_, 0, 0, 1, 2);
     grid->addWidget(HeightOption_, 1, 0);
@@ -55,7 +51,7 @@ void LWMFrame::Add_LWM_Poly() {
         tidemark::Add_LWM_Poly(project_, messages_, choice, From_qt(PolyHeightText_->text()));
     PolyHeightText_->setText(To_qt(result.HeightText));
     Refresh_LWM_List();
-    if (!result.StatusLine.empty()) Q_EMIT Remarked(To_qt(result.StatusLine));
+    Q_EMIT Remarked(To_qt(result.StatusLine));
 }
 
 void LWMFrame::Refresh_LWM_List() {

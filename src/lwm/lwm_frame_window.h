@@ -32,7 +32,8 @@ class LWMFrame : public QGroupBox {
   Q_SIGNALS:
     void Graphics_outdated();              // the map has to be drawn again
     void SaveEntry_changed(bool enabled);  // of the menu entry LWMsave
-    void Remarked(const QString& text);    // one quiet line about the polygon that was added
+    // One quiet line about the polygon that was added; empty when there is nothing to say.
+    void Remarked(const QString& text);
 
   private:
     void Lay_out();

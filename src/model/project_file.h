@@ -59,6 +59,10 @@ std::string Project_bytes(const Project& project, std::string_view saved_on);
 // every line after it, and MaxTextLength bytes at most.
 bool Is_savable(std::string_view text);
 
+// What the user is told of a chosen name that cannot.
+inline constexpr std::string_view UnsavableNameText =
+    "This name cannot be used: it holds a line end or a NUL, or it is too long.";
+
 // The name of the first text that cannot be saved; nothing when all can.
 std::optional<std::string> Unsavable_text(const Project& project);
 

@@ -11,14 +11,14 @@ namespace tidemark {
 
 namespace {
 
-constexpr std::string_view notepad_problem =
+constexpr std::string_view NotepadProblem =
     "There was a problem opening the external program Notepad!";
-constexpr std::string_view compiler_problem =
+constexpr std::string_view CompilerProblem =
     "There was a problem opening the external program BGLC.EXE.\n"
     "Please ensure that Flight Simulator 2002 is not currently running, and try saving the file "
     "again.";
 
-constexpr std::uintmax_t largest_compiled_file = std::uintmax_t{1} << 30;  // bytes
+constexpr std::uintmax_t LargestCompiledFile = std::uintmax_t{1} << 30;  // bytes
 
 class AfterSave {
   public:
@@ -32,8 +32,8 @@ class AfterSave {
 
     void Run() {
         if (task_.Notepad && !programs_.Show(files_.Full_path(task_.File)))
-            return Warn(messages_, notepad_problem);
-        if (task_.Compile && !Delete_compiled_file()) return Warn(messages_, compiler_problem);
+            return Warn(messages_, NotepadProblem);
+        if (task_.Compile && !Delete_compiled_file()) return Warn(messages_, CompilerProblem);
         const auto compiler = Find_compiler();
         if (!compiler) return;
         if (task_.Compile && !Start(*compiler)) return;
@@ -65,7 +65,7 @@ class AfterSave {
         const std::string path = files_.Full_path(compiler);
         ProgramStart start =
             programs_.Start({path, {files_.Full_path(task_.File)}, Folder_part(path)});
-        if (!start.Program) Warn(messages_, start.Advice.empty() ? compiler_problem : start.Advice);
+        if (!start.Program) Warn(messages_, start.Advice.empty() ? CompilerProblem : start.Advice);
         compiler_ = std::move(start.Program);
         return compiler_ != nullptr;
     }
@@ -74,7 +74,7 @@ class AfterSave {
         const std::string name = Last_part(BGL_name(task_.File));
         const auto compiled = Await_compiled_file(task_.File, compiler_.get(), files_, patience_);
         if (!compiled) return Warn(messages_, name + " not found!");
-        if (!Copy(*compiled, name)) return Warn(messages_, compiler_problem);
+        if (!Copy(*compiled, name)) return Warn(messages_, CompilerProblem);
         Inform(messages_, "Tidemark - File OK", name + " successfully copied to " + task_.FSFolder);
     }
 
@@ -85,7 +85,7 @@ class AfterSave {
         if (task_.FSFolder.empty() || !files_.Exists(folder + "/")) return false;  // no folder
         const std::string to = folder + "/" + name;
         std::string bytes;
-        return files_.Read(from, largest_compiled_file, bytes) &&
+        return files_.Read(from, LargestCompiledFile, bytes) &&
                files_.Replace(files_.Find(to).value_or(to), bytes);
     }
 

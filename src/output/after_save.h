@@ -26,9 +26,9 @@ AfterSaveTask VTP_after_save(const Project& project);
 // Runs the task in its order and ends at the first failure, which it tells with Warn. Programs are
 // started without waiting for them; only a copy waits for the compiled file, in bounded time:
 //
-//   the compiler has ended                it is copied, or given up when it is not there shortly
-//   after the compiler goes on, the file rests  it is copied after a quarter of a minute the
-//   compiler goes on, no file         it is given up after a minute
+// - the compiler has ended: the file is copied, or given up when it is not there shortly after;
+// - the compiler goes on and the file rests: it is copied after a quarter of a minute;
+// - the compiler goes on and there is no file: it is given up after a minute.
 //
 // The compiler and the compiled file are found whatever the case of their names.
 void After_save(const AfterSaveTask& task, Messages& messages, Files& files, Programs& programs,

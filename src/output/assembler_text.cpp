@@ -8,22 +8,22 @@ namespace tidemark {
 
 namespace {
 
-constexpr int banner_width = 79;
-constexpr std::string_view author_line =
+constexpr int BannerWidth = 79;
+constexpr std::string_view AuthorLine =
     "; ###        Made with Tidemark V1.1, by the Tidemark developers, 2026      ###";
-constexpr std::string_view contact_line =
+constexpr std::string_view ContactLine =
     "; ###        Please send bug reports to: bugs@tidemark.example              ###";
-static_assert(author_line.size() == banner_width && contact_line.size() == banner_width);
+static_assert(AuthorLine.size() == BannerWidth && ContactLine.size() == BannerWidth);
 
-constexpr int margin_degrees = 2;
+constexpr int MarginDegrees = 2;
 
 std::string BGL_limits(const Project& project) {
     const int latitude = project.CellLatitude;
     const int longitude = project.CellLongitude;
-    const int north = std::min(latitude + margin_degrees, 90);
-    const int south = std::max(latitude - margin_degrees, -90);
-    const int east = std::min(longitude + margin_degrees, 180);
-    const int west = std::max(longitude - margin_degrees, -180);
+    const int north = std::min(latitude + MarginDegrees, 90);
+    const int south = std::max(latitude - MarginDegrees, -90);
+    const int east = std::min(longitude + MarginDegrees, 180);
+    const int west = std::max(longitude - MarginDegrees, -180);
     return Int_text(north) + ", " + Int_text(south) + ", " + Int_text(east) + ", " + Int_text(west);
 }
 
@@ -39,8 +39,8 @@ std::string LOD8_cell(const Project& project) {
 
 void Write_assembler_header(LineWriter& lines, const Project& project, std::string_view contents,
                             std::string_view labels) {
-    lines.Write_line(author_line);
-    lines.Write_line(contact_line);
+    lines.Write_line(AuthorLine);
+    lines.Write_line(ContactLine);
     lines.Write_line(contents);
     lines.Write_line(BlankLine);
     lines.Write_line(

@@ -12,10 +12,10 @@ namespace {
 struct Quiet {
     int Complete, GivenUp;
 };
-constexpr Quiet compiler_has_ended{300, 3000};
-constexpr Quiet compiler_goes_on{15000, 60000};
+constexpr Quiet CompilerHasEnded{300, 3000};
+constexpr Quiet CompilerGoesOn{15000, 60000};
 
-constexpr int time_between_looks = 100;
+constexpr int TimeBetweenLooks = 100;
 
 }  // namespace
 
@@ -30,14 +30,14 @@ std::optional<std::string> Await_compiled_file(const std::string& assembler_file
     if (!compiler) return Find_compiled_file(assembler_file, files);
     const std::string what_for = "Waiting for BGLC.EXE to compile " + Last_part(assembler_file);
     std::optional<std::uintmax_t> size;
-    for (int quiet = 0;; quiet += time_between_looks) {
-        const Quiet& limits = compiler->Has_ended() ? compiler_has_ended : compiler_goes_on;
+    for (int quiet = 0;; quiet += TimeBetweenLooks) {
+        const Quiet& limits = compiler->Has_ended() ? CompilerHasEnded : CompilerGoesOn;
         auto file = Find_compiled_file(assembler_file, files);
         const auto size_now = file ? files.Size(*file) : std::nullopt;
         if (size_now != size) quiet = 0;
         size = size_now;
         if (quiet >= (file ? limits.Complete : limits.GivenUp)) return file;
-        patience.Wait(what_for, time_between_looks);
+        patience.Wait(what_for, TimeBetweenLooks);
     }
 }
 

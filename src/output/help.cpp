@@ -6,7 +6,7 @@ namespace tidemark {
 
 namespace {
 
-constexpr std::string_view about_text =
+constexpr std::string_view AboutText =
     "Tidemark ( V 1.1 - 27th January 2003 )\n"
     "\n"
     "Written by the Tidemark developers, 2026\n"
@@ -57,7 +57,7 @@ void Show_help(const HelpDocument& document, const HelpPlaces& places, Messages&
 }
 
 void Show_about(Messages& messages) {
-    Inform(messages, "About Tidemark", about_text);
+    Inform(messages, "About Tidemark", AboutText);
 }
 
 }  // namespace tidemark

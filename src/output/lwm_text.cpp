@@ -10,18 +10,18 @@ namespace {
 
 // The most vertices that a plain LWMPoly2 line can announce. A longer polygon takes the long form,
 // which says this one more and then the rest.
-constexpr int longest_short_form = 62;
-constexpr int long_form_count = longest_short_form + 1;
+constexpr int LongestShortForm = 62;
+constexpr int LongFormCount = LongestShortForm + 1;
 
 std::string Polygon_line(const Project& p, int polygon) {
     const int count = p.LWMPointCount(polygon);
-    const bool is_long = count > longest_short_form;
-    std::string line = is_long ? "         LWMPoly2Ex " + Int_text(long_form_count)
+    const bool is_long = count > LongestShortForm;
+    std::string line = is_long ? "         LWMPoly2Ex " + Int_text(LongFormCount)
                                : "         LWMPoly2 " + Int_text(count);
     line += ", 0,";
     line += p.LWMType(polygon) == WaterPolygon ? " 0," : " 1, ";
     line += Int_text(p.LWMHeight(polygon)) + ", 0";
-    if (is_long) line += ", " + Int_text(count - long_form_count);
+    if (is_long) line += ", " + Int_text(count - LongFormCount);
     return line;
 }
 

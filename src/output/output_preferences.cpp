@@ -10,9 +10,7 @@ namespace {
 
 bool Check_path(const std::string& path, Messages& messages) {
     const bool savable = Is_savable(path);
-    if (!savable)
-        Warn(messages,
-             "This name cannot be used: it holds a line end or a NUL, or it is too long.");
+    if (!savable) Warn(messages, UnsavableNameText);
     return savable;
 }
 

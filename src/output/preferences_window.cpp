@@ -6,18 +6,12 @@
 #include <QVBoxLayout>
 
 #include "output/output_names.h"
+#include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
 
 namespace {
-
-template <class Control>
-Control* Named(const char* name, const char* caption) {
-    auto* const control = new Control(caption);
-    control->setObjectName(name);
-    return control;
-}
 
 QPushButton* Browse_button(const char* name, const char* spoken) {
     auto* const button = Named<QPushButton>(name, "Browse");
@@ -28,7 +22,7 @@ QPushButton* Browse_button(const char* name, const char* spoken) {
 
 // A line for a long path: it can be selected, wraps, and does not widen the dialog.
 QLabel* Path_label(const char* name) {
-    auto* const label = Named<QLabel>(name, "");
+    auto* const label = Named<QLabel>(name);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setWordWrap(true);
@@ -44,12 +38,12 @@ Preferences::Preferences(Platform& platform, QWidget* owner)
               Named<QCheckBox>("Check2", "After saving, compile ASM file with BGLC"),
               Named<QCheckBox>("Check3", "After saving, open ASM file in Notepad"),
               Named<QCheckBox>("Check4", "After saving, compile ASM file with BGLC")},
-      RootText_(Named<QLineEdit>("RootText", "")),
+      RootText_(Named<QLineEdit>("RootText")),
       BrowseButton_(Browse_button("BrowseButton", "Browse for the filename root")),
       LWMlabel_(Path_label("LWMlabel")),
       VTPlabel_(Path_label("VTPlabel")),
       FScopy_(Named<QCheckBox>("FScopy", "Copy compiled BGLs to:")),
-      FSname_(Named<QLineEdit>("FSname", "")),
+      FSname_(Named_field("FSname", "Folder to copy compiled BGLs to")),
       FSBrowseButton_(Browse_button("FSBrowseButton", "Browse for the folder")) {
     setObjectName("Preferences");
     setWindowTitle("Tidemark - Output Preferences");
@@ -86,7 +80,6 @@ QWidget* Preferences::Filenames_frame() {
     auto* const frame = Named<QGroupBox>("Frame3", "Filenames");
     auto* const label = Named<QLabel>("Label1", "Output filename root is:");
     label->setBuddy(RootText_);
-    FSname_->setAccessibleName("Folder to copy compiled BGLs to");
 
     auto* const grid = new QGridLayout(frame);
     grid->addWidget(label, 0, 0);

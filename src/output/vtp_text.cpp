@@ -23,7 +23,7 @@ struct Texture {
     std::string_view Name;
 };
 
-constexpr std::array<Texture, 8> textures{{
+constexpr std::array<Texture, 8> Textures{{
     {1, ClearCoastlines, "1029"},
     {2, ClearCoastlines, "1062"},
     {3, ClearCoastlines, "1031"},
@@ -34,10 +34,10 @@ constexpr std::array<Texture, 8> textures{{
     {9, ClearMajorRoads, "1134"},
 }};
 
-constexpr std::array layers{ClearCoastlines, ClearRivers, ClearMinorRoads, ClearMajorRoads};
+constexpr std::array Layers{ClearCoastlines, ClearRivers, ClearMinorRoads, ClearMajorRoads};
 
 // The most points that one VTPPolyMethod2 line can announce; the rest goes to a second line.
-constexpr int longest_poly_method = 31;
+constexpr int LongestPolyMethod = 31;
 
 // In the file an LOD13 cell is 255 units wide: position 255 of one cell is position 0 of the next.
 struct FilePoint {
@@ -65,7 +65,7 @@ class VTPText {
     std::string Bytes() {
         Header();
         Cleared_cells();
-        for (const int layer : layers) Layer(layer);
+        for (const int layer : Layers) Layer(layer);
         Trailer();
         return lines_.Bytes();
     }
@@ -109,19 +109,19 @@ class VTPText {
         const auto in_use = [&](const Texture& texture) {
             return texture.Layer == layer && Segment_count(texture.Mode) > 0;
         };
-        const auto count = std::count_if(textures.begin(), textures.end(), in_use);
+        const auto count = std::count_if(Textures.begin(), Textures.end(), in_use);
         if (count == 0) return;
         Line(BlankLine);
         Line("  VTPDataArea 1, 1, 0, 0");
         Line("    VTPLayer ", Int_text(layer), ", 1");
         Line("    VTPNumTexturesInLayer ", Int_text(count), ", 0");
         Line(BlankLine);
-        for (const Texture& texture : textures)
+        for (const Texture& texture : Textures)
             if (in_use(texture)) Segments_of(texture);
     }
 
     void Segments_of(const Texture& texture) {
-        Line("    VTPTextureId ", Int_text(&texture - textures.data()), ", 0");
+        Line("    VTPTextureId ", Int_text(&texture - Textures.data()), ", 0");
         Line("    VTPPolyCount ", Int_text(Segment_count(texture.Mode)), ", 0");
         Line(BlankLine);
         for (const Segment& segment : segments_)
@@ -146,7 +146,7 @@ class VTPText {
     }
 
     void Poly_method(int point_count) {
-        const int announced = std::min(point_count, longest_poly_method);
+        const int announced = std::min(point_count, LongestPolyMethod);
         Line("      VTPPolyMethod2", Blank_text(Int16(announced)), ", 1, 0");
         if (point_count > announced)
             Line("      VTPPolyMethod2Ex", Blank_text(Int16(point_count - announced)));
@@ -176,15 +176,15 @@ class VTPText {
 
     void Texture_list() {
         const auto mark = [](std::size_t id) { return "texturemark_" + std::to_string(id); };
-        for (std::size_t id = 0; id < textures.size(); ++id)
+        for (std::size_t id = 0; id < Textures.size(); ++id)
             Line("    VTPTextureListEntry TextureDataStart, ", mark(id), ", ", mark(id + 1));
         Lines({BlankLine, "TextureDataStart    label   word"});
-        for (std::size_t id = 0; id < textures.size(); ++id) {
+        for (std::size_t id = 0; id < Textures.size(); ++id) {
             Line("    ", mark(id), "   label   word");
-            Line("        VTPTextureName \"", textures[id].Name, "\"");
+            Line("        VTPTextureName \"", Textures[id].Name, "\"");
             Line("        VTPTextureType 2, 0, 0, 4");
         }
-        Line("    ", mark(textures.size()), "   label   word");
+        Line("    ", mark(Textures.size()), "   label   word");
     }
 
     const Project& p;

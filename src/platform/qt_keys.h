@@ -5,16 +5,12 @@
 
 namespace tidemark {
 
-inline constexpr int KeyEnter = 13;
 inline constexpr int KeyDelete = 46;
 inline constexpr int KeyE = 69;
 
 // The 16-bit virtual key code of a key; 0 for a key that no handler asks for.
 inline int Key_code(const QKeyEvent& event) {
     switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return KeyEnter;
         case Qt::Key_Delete:
             return KeyDelete;
         case Qt::Key_E:

@@ -29,7 +29,7 @@ class ListBox : public QListView {
 
   Q_SIGNALS:
     void Clicked();                  // another line was selected, by the user or by Select
-    void Key_pressed(int key_code);  // as in qt_keys.h; the list's own keys are announced too
+    void Key_pressed(int key_code);  // those of qt_keys.h; the list then takes the key as well
 
   protected:
     QSize sizeHint() const override;

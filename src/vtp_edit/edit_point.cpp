@@ -1,5 +1,7 @@
 #include "vtp_edit/edit_point.h"
 
+#include <utility>
+
 #include "model/cell_frame.h"
 #include "model/rounding.h"
 #include "model/text_forms.h"
@@ -37,10 +39,11 @@ bool In_range(std::string_view axis, const std::string& text, Int16 lowest, Int1
 EditPointTexts Edit_point_texts(Project& project, int point) {
     const Int16 x = project.VTPPoint(point, 0);
     const Int16 y = project.VTPPoint(point, 1);
-    project.CursorInCellX = In_cell_from(project.AreaLeftVTP, x);
-    project.CursorInCellY = In_cell_from(project.AreaTopVTP, y);
-    return {Int_text(x), Int_text(y), Int_text(project.CursorInCellX),
-            Int_text(project.CursorInCellY)};
+    const Int16 in_cell_x = In_cell_from(project.AreaLeftVTP, x);
+    const Int16 in_cell_y = In_cell_from(project.AreaTopVTP, y);
+    project.CursorInCellX = in_cell_x;
+    project.CursorInCellY = in_cell_y;
+    return {Int_text(x), Int_text(y), Int_text(in_cell_x), Int_text(in_cell_y)};
 }
 
 std::string Edit_point_cell_text(const Project& project, int point) {
@@ -62,13 +65,13 @@ bool Check_edit_point(const Project& project, const EditPointTexts& texts, Messa
 void Store_edit_point(Project& project, int point, const EditPointTexts& texts) {
     Int16& x = project.VTPPoint(point, 0);
     Int16& y = project.VTPPoint(point, 1);
-    if (texts.InCell) {
-        x = Moved_in_cell(project.AreaLeftVTP, x, texts.LOD13X);
-        y = Moved_in_cell(project.AreaTopVTP, y, texts.LOD13Y);
-    } else {
-        x = Round_half_even(Numeric_value(texts.VTPX));
-        y = Round_half_even(Numeric_value(texts.VTPY));
-    }
+    // Both are worked out before either is stored: one that does not fit leaves the point alone.
+    const auto [new_x, new_y] = texts.InCell
+                                    ? std::pair(Moved_in_cell(project.AreaLeftVTP, x, texts.LOD13X),
+                                                Moved_in_cell(project.AreaTopVTP, y, texts.LOD13Y))
+                                    : std::pair(Int_value(texts.VTPX), Int_value(texts.VTPY));
+    x = new_x;
+    y = new_y;
     project.DataChanged = true;
 }
 

@@ -7,24 +7,12 @@
 #include <QVBoxLayout>
 
 #include "platform/qt_active_window.h"
+#include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
 
 namespace {
-
-QLineEdit* Field(const char* name, const char* spoken) {
-    auto* const field = new QLineEdit;
-    field->setObjectName(name);
-    field->setAccessibleName(spoken);
-    return field;
-}
-
-QRadioButton* Option(const char* name, const char* caption) {
-    auto* const option = new QRadioButton(caption);
-    option->setObjectName(name);
-    return option;
-}
 
 // The fields of one option, under it and as far in as its caption.
 QFormLayout* Indented_form(QWidget* fields) {
@@ -41,15 +29,15 @@ EditPoint::EditPoint(Project& project, Messages& messages, QWidget* owner)
     : QDialog(owner),
       project_(project),
       messages_(messages),
-      Option1_(Option("Option1", "Edit VTP co-ordinates:")),
-      Option2_(Option("Option2", "Edit LOD13 cell co-ordinates:")),
+      Option1_(Named<QRadioButton>("Option1", "Edit VTP co-ordinates:")),
+      Option2_(Named<QRadioButton>("Option2", "Edit LOD13 cell co-ordinates:")),
       VTP_fields_(new QWidget),
       cell_fields_(new QWidget),
-      VTPX_(Field("VTPX", "X in VTP units")),
-      VTPY_(Field("VTPY", "Y in VTP units")),
-      LOD13X_(Field("LOD13X", "X in the LOD13 cell")),
-      LOD13Y_(Field("LOD13Y", "Y in the LOD13 cell")),
-      CellLabel_(new QLabel) {
+      VTPX_(Named_field("VTPX", "X in VTP units")),
+      VTPY_(Named_field("VTPY", "Y in VTP units")),
+      LOD13X_(Named_field("LOD13X", "X in the LOD13 cell")),
+      LOD13Y_(Named_field("LOD13Y", "Y in the LOD13 cell")),
+      CellLabel_(Named<QLabel>("CellLabel")) {
     setObjectName("EditPoint");
     setWindowTitle("Tidemark - Edit Point");
     Lay_out();
@@ -59,7 +47,6 @@ EditPoint::EditPoint(Project& project, Messages& messages, QWidget* owner)
 }
 
 void EditPoint::Lay_out() {
-    CellLabel_->setObjectName("CellLabel");
     QFormLayout* const VTP_form = Indented_form(VTP_fields_);
     VTP_form->addRow("X", VTPX_);
     VTP_form->addRow("Y", VTPY_);

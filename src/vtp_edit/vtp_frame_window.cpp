@@ -6,6 +6,7 @@
 
 #include "model/list_selection.h"
 #include "model/segments.h"
+#include "platform/qt_controls.h"
 #include "platform/qt_keys.h"
 #include "platform/qt_text.h"
 #include "vtp_edit/vtp_list.h"
@@ -13,38 +14,26 @@
 
 namespace tidemark {
 
-namespace {
-
-QPushButton* Button(const char* name, const char* caption) {
-    auto* const button = new QPushButton(caption);
-    button->setObjectName(name);
-    return button;
-}
-
-}  // namespace
-
 VTPFrame::VTPFrame(Project& project, Messages& messages, QWidget* parent)
     : QGroupBox("VTP points / segments", parent),
       project_(project),
       messages_(messages),
       VTPlistbox_(new ListBox("VTPlistbox", "VTP points and segments")),
-      NewSegment_(new QCheckBox("Start new segment")),
-      VTPwidthText_(new QLineEdit("80")) {
+      NewSegment_(Named<QCheckBox>("NewSegment", "Start new segment")),
+      VTPwidthText_(
+          Named_field("VTPwidthText", "Current segment width", To_qt(DefaultVTPWidthText))) {
     Lay_out();
     connect(VTPlistbox_, &ListBox::Clicked, this, &VTPFrame::Graphics_outdated);
     connect(VTPlistbox_, &ListBox::Key_pressed, this, &VTPFrame::VTPlistbox_KeyDown);
 }
 
 void VTPFrame::Lay_out() {
-    NewSegment_->setObjectName("NewSegment");
     NewSegment_->setChecked(true);
-    VTPwidthText_->setObjectName("VTPwidthText");
-    VTPwidthText_->setAccessibleName("Current segment width");
     auto* const label = new QLabel("Current segment width:");
     label->setBuddy(VTPwidthText_);
-    QPushButton* const change = Button("ChangeButton", "Change segment width");
-    QPushButton* const reverse = Button("ReverseButton", "Reverse segment");
-    QPushButton* const edit = Button("EditButton", "Edit point");
+    auto* const change = Named<QPushButton>("ChangeButton", "Change segment width");
+    auto* const reverse = Named<QPushButton>("ReverseButton", "Reverse segment");
+    auto* const edit = Named<QPushButton>("EditButton", "Edit point");
 
     auto* const grid = new QGridLayout(this);
     grid->addWidget(VTPlistbox_, 0, 0, 1, 2);

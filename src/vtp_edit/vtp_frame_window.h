@@ -33,8 +33,6 @@ class VTPFrame : public QGroupBox {
     void Refresh_VTP_List();
 
     void VTPlistbox_KeyDown(int key_code);
-    void ChangeButton_Click();
-    void ReverseButton_Click();
 
   Q_SIGNALS:
     void Graphics_outdated();              // the map has to be drawn again
@@ -43,6 +41,8 @@ class VTPFrame : public QGroupBox {
 
   private:
     void Lay_out();
+    void ChangeButton_Click();
+    void ReverseButton_Click();
     std::optional<Int16> Typed_width();
     void Show_points(int selected);
 

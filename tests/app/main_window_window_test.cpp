@@ -141,6 +141,16 @@ TEST_F(MainWindowTest, ARefusedFileIsNamedInTheStatusBarAndTheProjectStays) {
     EXPECT_TRUE(window_.Current_project() == before);
 }
 
+TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpenedUnder) {
+    const QString moved = QString::fromStdString(folder_ / "moved.tdm");
+    ASSERT_TRUE(QFile::copy(Write_project("stored.tdm"), moved));
+    window_.Open(moved);
+    plan_.Then_answer(QMessageBox::No);
+    Choose_entry(window_, "FileMenu", "FileSave");
+    EXPECT_TRUE(plan_.Messages().at(0).contains("stored.tdm - file exists - overwrite?"));
+    EXPECT_EQ(window_.windowTitle(), "Tidemark - MOVED.TDM");
+}
+
 TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndOtherThingsCannot) {
     const auto drop = [this](const QStringList& paths) {
         QMimeData data;
@@ -152,6 +162,7 @@ TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndOtherThingsCannot) {
         enter.ignore();
         QCoreApplication::sendEvent(&window_, &enter);
         QCoreApplication::sendEvent(&window_, &drop_event);
+        QCoreApplication::processEvents();
         return enter.isAccepted();
     };
     const QString path = Write_project("Dropped.TDM");

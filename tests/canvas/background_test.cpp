@@ -3,22 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/recording_messages.h"
+#include "fakes/fake_platform.h"
 #include "fakes/sample_projects.h"
 
 namespace tidemark {
 namespace {
-
-class OneAnswer : public Choosers {
-  public:
-    std::optional<std::string> Answer;
-    std::vector<FileChooser> Asked;
-
-    std::optional<std::string> Choose(const FileChooser& chooser) override {
-        Asked.push_back(chooser);
-        return Answer;
-    }
-};
 
 class BackgroundTest : public testing::Test {
   protected:
@@ -26,21 +15,21 @@ class BackgroundTest : public testing::Test {
 
     Project project_ = Project_of_all_values();
     RecordingMessages messages_;
-    OneAnswer choosers_;
+    RecordingChoosers choosers_;
 };
 
 TEST_F(BackgroundTest, WithoutUnsavedChangesNothingIsAskedOrCleared) {
-    choosers_.Answer = "/maps/bay.gif";
+    choosers_.Answers = {"/maps/bay.gif"};
     project_.DataChanged = false;
     Project expected = project_;
     expected.BackgroundFile = "/maps/bay.gif";
     EXPECT_TRUE(Choose());
     EXPECT_TRUE(messages_.Shown.empty());
     EXPECT_EQ(project_, expected);
-    ASSERT_EQ(choosers_.Asked.size(), 1U);
-    EXPECT_EQ(choosers_.Asked[0].Title, "Tidemark - Open background image");
-    EXPECT_EQ(choosers_.Asked[0].Filter, "*.BMP;*.GIF;*.JPG");
-    EXPECT_EQ(choosers_.Asked[0].InitialFolder, "/maps");
+    ASSERT_EQ(choosers_.Shown.size(), 1U);
+    EXPECT_EQ(choosers_.Shown[0].Title, "Tidemark - Open background image");
+    EXPECT_EQ(choosers_.Shown[0].Filter, "*.BMP;*.GIF;*.JPG");
+    EXPECT_EQ(choosers_.Shown[0].InitialFolder, "/maps");
 }
 
 TEST_F(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
@@ -51,7 +40,7 @@ TEST_F(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
               (std::vector<Message>{
                   {"This will clear all of your current data - do you wish to continue?",
                    "Tidemark - Load warning", MessageIcon::Exclamation, MessageButtons::YesNo}}));
-    EXPECT_TRUE(choosers_.Asked.empty());
+    EXPECT_TRUE(choosers_.Shown.empty());
     EXPECT_EQ(project_, before);
     EXPECT_TRUE(project_.DataChanged);
 
@@ -63,6 +52,14 @@ TEST_F(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     cleared.VTPCount = cleared.LWMCount = cleared.KillCount = 0;
     EXPECT_EQ(project_, cleared);
     EXPECT_FALSE(project_.DataChanged);
+}
+
+TEST_F(BackgroundTest, APathThatNoProjectFileCouldHoldIsRefused) {
+    choosers_.Answers = {"/maps/two\nlines.gif"};
+    const Project before = project_;
+    EXPECT_FALSE(Choose());
+    EXPECT_EQ(project_, before);
+    EXPECT_EQ(messages_.Shown.size(), 1U);
 }
 
 TEST_F(BackgroundTest, LoadingTellsWhetherItWorked) {

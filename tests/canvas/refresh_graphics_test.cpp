@@ -103,6 +103,16 @@ TEST(RefreshGraphicsTest, ClearedCellsNestBySizeAndAnUnknownCodeRepeatsTheLast) 
     EXPECT_EQ(lines.back(), "line 19,218 109,218");
 }
 
+TEST(RefreshGraphicsTest, WhatLiesTooFarAwayForSixteenBitsIsLeftOut) {
+    Project p = Whole_cell();
+    Add_polygon(p, 200, 0, 10, 20, 3);
+    Add_segment(p, 5, 80, {{4080, 4080}, {-30000, 4080}, {4082, 4080}, {4084, 4080}});
+    Add_cleared_cell(p, 0, 200, 16);
+    EXPECT_THAT(Drawn(p, 1),
+                ElementsAre("erase", "width 3", "colour 0 0 255", "width 2", "colour 0 255 255",
+                            "line 1,0 2,0", "width 2", "colour 0 0 128", "width 2"));
+}
+
 TEST(RefreshGraphicsTest, ASelectionOutsideTheListMarksNothing) {
     Project p = Whole_cell();
     Add_segment(p, 0, 80, {{4080, 4080}, {4082, 4080}});

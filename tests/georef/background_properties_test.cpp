@@ -98,27 +98,5 @@ TEST(BackgroundPropertiesTest, TheAreaAndTheScaleFollowFromTheCorners) {
     EXPECT_EQ(p.ScaleX, 0);
 }
 
-TEST(BackgroundPropertiesTest, TheDialogComesBackUntilEveryValueIsRight) {
-    Project p;
-    RecordingMessages messages;
-    std::vector<GeoreferenceTexts> filled;
-    const std::vector<GeoreferenceTexts> typed{{"800", "63", "3", "4", "5", "4"},
-                                               {"700", "63", "3", "4", "2", "4"},
-                                               {"15", "191", "3", "4", "5", "4"}};
-    const auto ask = [&](const GeoreferenceTexts& texts) {
-        filled.push_back(texts);
-        return typed.at(filled.size() - 1);
-    };
-    Ask_background_properties(p, ask, 768, 256, messages);
-    EXPECT_EQ(filled, (std::vector<GeoreferenceTexts>{{"0", "0", "0", "0", "0", "0"},
-                                                      {"0", "63", "3", "4", "5", "4"},
-                                                      {"700", "63", "3", "4", "2", "4"}}));
-    EXPECT_EQ(messages.Texts(), (std::vector<std::string>{RangeWarning, CornerWarning}));
-    EXPECT_EQ(p.CellLatitude, 22);
-    EXPECT_EQ(p.CellLongitude, -172);
-    EXPECT_EQ(p.AreaLeftVTP, 4848);
-    EXPECT_EQ(p.ScaleX, 1);
-}
-
 }  // namespace
 }  // namespace tidemark

@@ -71,6 +71,21 @@ TEST(CellEdgesTest, AStepCrossesTheBoundaryWhereItsLineDoes) {
     }
 }
 
+// The quotient is taken first, so a half can miss itself by the last bit of a double.
+TEST(CellEdgesTest, AHalfMayBeRoundedOtherwiseInTheOtherDirection) {
+    for (const auto& [line, crossing] : {std::pair{"-165,76 85,1", "0,27"},
+                                         {"85,1 -165,76", "0,26"},
+                                         {"-99,202 55,27", "0,90"},
+                                         {"55,27 -99,202", "0,89"}}) {
+        const auto project = Cell_project(line);
+        RecordingMessages messages;
+        CellEdges edges(*project, messages);
+        edges.Point_in_cell(1);
+        edges.Add_Edge_Crossing(2, false);
+        EXPECT_EQ(Points_text({{edges.EdgePoint(1)}}), crossing) << line;
+    }
+}
+
 TEST(CellEdgesTest, TheNextEdgePointIsTheLastThatIsLinked) {
     const auto project = Cell_project("");
     RecordingMessages messages;

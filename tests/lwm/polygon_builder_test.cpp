@@ -139,6 +139,21 @@ TEST(PolygonBuilderTest, CellsAreCutAlongTheirCoastlines) {
          {125, 200},
          {},
          "100,0 100,100 150,100 150,0 255,0 255,255 0,255 0,0"},
+        {"to the north-west corner, which is the top edge's",
+         "-9,128 60,100 0,0",
+         {200, 200},
+         {},
+         "0,124 60,100 0,0 255,0 255,255 0,255"},
+        {"and its corner piece, closed twice over",
+         "-9,128 60,100 0,0",
+         {20, 70},
+         {},
+         "0,0 60,100 0,124 0,0"},
+        {"to the south-east corner, which is the bottom edge's",
+         "265,128 200,100 255,255",
+         {50, 50},
+         {},
+         "255,124 200,100 255,255 0,255 0,0 255,0"},
         {"no trace of a step across", "-20,98 300,156", {5, 5}, {}, WholeCell},
     });
 }
@@ -238,9 +253,23 @@ TEST(PolygonBuilderTest, WalksThatDoNotComeBackAreDropped) {
         EXPECT_TRUE(messages.Shown.empty());
     }
     const std::string touching = "100,-9 100,99 150,0 150,-9 | 150,0 150,99 200,99 200,-9";
+    const std::string west = "-9,50 100,50 150,0 |";
+    const std::string east = "150,0 200,50 300,50 |";
+    const std::string corner = "-9,20 30,20 50,-9";
     Expect_built({
         {"two ends on one spot, a piece", touching, {120, 40}, {}, "150,0 100,99 100,0"},
         {"two ends on one spot, around them", touching, {20, 20}, {NoneAround}, ""},
+        {"from the later of two ends on one spot the walk goes on",
+         east + west + corner,
+         {60, 20},
+         {},
+         "0,20 30,20 44,0 150,0 100,50 0,50"},
+        {"the earlier of them as the start",
+         west + east + corner,
+         {60, 20},
+         {},
+         "150,0 100,50 0,50 0,20 30,20 44,0"},
+        {"both ends past a corner", "350,-20 250,5 5,250 -100,290", {50, 50}, {NoneAround}, ""},
     });
 }
 
@@ -263,6 +292,12 @@ TEST(PolygonBuilderTest, TablesThatWereNotRepaired) {
     both->VTPSegEnd(2) = both->VTPSegEnd(4) = false;
     EXPECT_EQ(Built(*both, messages), "74,255 90,90 72,0 255,0 255,255");
     EXPECT_EQ(messages.Texts(), Texts(3, NotAtEdge));
+
+    messages.Shown.clear();
+    const auto no_edge = Cell_project("20,20 30,30 | 60,110 -20,100 | -9,200 9,200", {5, 105});
+    no_edge->VTPSegEnd(2) = no_edge->VTPSegEnd(6) = false;  // to be turned round, but to no edge
+    EXPECT_EQ(Built(*no_edge, messages), "0,102 60,110 20,20 30,30");  // as far as it came
+    EXPECT_EQ(messages.Texts(), (Texts{Linked, NotAtEdge, NotAtEdge}));
 
     messages.Shown.clear();
     const auto unstarted = Cell_project("-20,98 60,110 300,156", {100, 230});

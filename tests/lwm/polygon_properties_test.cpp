@@ -153,7 +153,8 @@ TEST(PolygonPropertiesTest, ACoastlineDrawnInTwoPartsCutsAsInOne) {
 
 double Mean_distance(const Outline& outline, CellPoint click) {
     double sum = 0;
-    for (const CellPoint& p : outline) sum += std::hypot(int{p.X} - int{click.X}, int{p.Y} - int{click.Y});
+    for (const CellPoint& p : outline)
+        sum += std::hypot(int{p.X} - int{click.X}, int{p.Y} - int{click.Y});
     return sum / static_cast<double>(outline.size());
 }
 

@@ -91,9 +91,10 @@ TEST(ProjectFileTest, LineEndsFirstAndLastLineAndTheFormOfNumbersDoNotMatter) {
     const std::string bytes = Project_bytes(project, "now");
     std::string unix_lines = bytes;
     std::erase(unix_lines, '\r');
+    using namespace std::string_literals;
     std::string stray_CRs = With_line(bytes, 2, "\r-10\r2\r\r");
     for (const std::string& variant :
-         {unix_lines, stray_CRs, With_line(bytes, 1, "anything\0at all"),
+         {unix_lines, stray_CRs, With_line(bytes, 1, "anything\0at all"s),
           bytes.substr(0, bytes.rfind("END OF FILE")), bytes + "more\r\nlines",
           With_line(bytes, 2, "   -1.02e2 units"), With_line(bytes, 2, "-101.5")}) {
         Project read;

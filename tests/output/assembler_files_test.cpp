@@ -2,6 +2,7 @@
 #include "output/assembler_files.h"
 
 #include <algorithm>
+#include <fstream>
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -56,119 +57,20 @@ Project Project_at_cell_3_5() {
     return p;
 }
 
+// A file that was checked line by line against the compiler's macros.
+std::string Expected_file(const char* name) {
+    std::ostringstream content;
+    content << std::ifstream(std::string(TIDEMARK_SOURCE_DIR "/tests/output/data/") + name,
+                             std::ios::binary)
+                   .rdbuf();
+    return content.str();
+}
+
 TEST(VTPTextTest, TheWholeFileOfOneSegmentAndOneClearedCell) {
     Project p = Project_at_cell_3_5();
     Add_segment(p, 1, 80, {{5460, 6000}, {5500, 6100}, {5600, 6150}});
     Add_cleared_cell(p, 5, 17, 31);
-    const Lines lines = Split(VTP_file_bytes(p));
-
-    EXPECT_TRUE(lines[0].starts_with("; ###") && lines[0].ends_with("###"));
-    EXPECT_TRUE(lines[1].starts_with("; ###") && lines[1].ends_with("###"));
-    EXPECT_EQ(lines[0].size(), 79U);
-    EXPECT_EQ(lines[1].size(), 79U);
-    EXPECT_EQ(
-        Lines(lines.begin() + 2, lines.end()),
-        Lines({
-            "; ###        This ASM file contains Vector Terrain Polygon data only        ###",
-            " ",
-            "; The following two files (by Orrin Vale) must be in the same folder as BGLC.EXE "
-            "for successful compilation",
-            "include TDFMacros.inc",
-            "include TDFHeaders.inc",
-            " ",
-            "; In next line, BGLHeader N, S, E, W limits of BGL (set by Tidemark)",
-            "BGLHeader 57, 53, 10, 6, TerrainHeaderStart, VTPHeader",
-            " ",
-            "VTPHeader   label   word",
-            "    VTPFileHeader 256, VTPIndexStart, TextureStart, VTPEnd",
-            " ",
-            "VTPStart        label   word",
-            "    datamark_v0 label   word",
-            " ",
-            "  VTPDataArea 1, 0, 5, 17",
-            "     VTPLayer 31, 1",
-            "     VTPNumTexturesInLayer 0, 0",
-            " ",
-            " ",
-            "  VTPDataArea 1, 1, 0, 0",
-            "    VTPLayer 8, 1",
-            "    VTPNumTexturesInLayer 1, 0",
-            " ",
-            "    VTPTextureId 0, 0",
-            "    VTPPolyCount 1, 0",
-            " ",
-            "      VTPPolyMethod2 7, 1, 0",
-            "        VTPWidePoint 5455, 1, 5993, 0",
-            "        VTPWidePointWidth 1",
-            "        VTPWidePoint 5455, 1, 5993, 0",
-            "        VTPWidePointWidth 80",
-            "        VTPWidePoint 5457, 0, 5998, 0",
-            "        VTPWidePoint 5495, 0, 6093, 0",
-            "        VTPWidePoint 5590, 0, 6140, 0",
-            "        VTPWidePoint 5595, 0, 6142, 0",
-            "        VTPWidePoint 5595, 1, 6142, 0",
-            "        VTPWidePointWidth 0",
-            " ",
-            "    datamark_v1  label word",
-            "; " + std::string(104, '='),
-            "; In next line, VTPCellID set by Tidemark",
-            "Cellv_400_100    EQU  VTPCellID 0, 400, 100",
-            " ",
-            "; " + std::string(104, '='),
-            "    VTPIndexStart   label   word",
-            "  VTPIndexHeader 1, VTPIndexData, VTPStart",
-            "    VTPIndexData    label   word",
-            "    VTPIndexEntry Cellv_400_100, VTPStart, datamark_v0, datamark_v1",
-            " ",
-            "; " + std::string(104, '='),
-            " ",
-            "TextureStart    label   word",
-            "    VTPTextureListHeader 8, TextureIndexStart, TextureDataStart, "
-            "TextureDataEnd",
-            " ",
-            "TextureIndexStart   label   word",
-            "    VTPTextureListEntry TextureDataStart, texturemark_0, texturemark_1",
-            "    VTPTextureListEntry TextureDataStart, texturemark_1, texturemark_2",
-            "    VTPTextureListEntry TextureDataStart, texturemark_2, texturemark_3",
-            "    VTPTextureListEntry TextureDataStart, texturemark_3, texturemark_4",
-            "    VTPTextureListEntry TextureDataStart, texturemark_4, texturemark_5",
-            "    VTPTextureListEntry TextureDataStart, texturemark_5, texturemark_6",
-            "    VTPTextureListEntry TextureDataStart, texturemark_6, texturemark_7",
-            "    VTPTextureListEntry TextureDataStart, texturemark_7, texturemark_8",
-            " ",
-            "TextureDataStart    label   word",
-            "    texturemark_0   label   word",
-            "        VTPTextureName \"1029\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_1   label   word",
-            "        VTPTextureName \"1062\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_2   label   word",
-            "        VTPTextureName \"1031\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_3   label   word",
-            "        VTPTextureName \"1116\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_4   label   word",
-            "        VTPTextureName \"1024\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_5   label   word",
-            "        VTPTextureName \"1040\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_6   label   word",
-            "        VTPTextureName \"1158\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_7   label   word",
-            "        VTPTextureName \"1134\"",
-            "        VTPTextureType 2, 0, 0, 4",
-            "    texturemark_8   label   word",
-            "TextureDataEnd  label   word",
-            "; " + std::string(104, '='),
-            " ",
-            "VTPEnd      label   word",
-            " ",
-            "; End of VTP file",
-        }));
+    EXPECT_EQ(VTP_file_bytes(p), Expected_file("one-segment-VTP.asm"));
 }
 
 TEST(VTPTextTest, SegmentsAreGroupedByLayerThenTextureThenPoint) {
@@ -272,50 +174,7 @@ TEST(AssemblerTextTest, TheLimitsStayWithinPolesAndDateLine) {
 TEST(LWMTextTest, TheWholeFileOfOnePolygonAndThePolygonLines) {
     Project p = Project_at_cell_3_5();
     Add_polygon(p, 12, 7, 11, 15, 4);
-    const Lines lines = Split(LWM_file_bytes(p));
-    EXPECT_EQ(
-        Lines(lines.begin() + 2, lines.end()),
-        Lines({
-            "; ###       This ASM file contains Land/Water Mask polygon data only        ###",
-            " ",
-            "; The following two files (by Orrin Vale) must be in the same folder as BGLC.EXE "
-            "for successful compilation",
-            "include TDFMacros.inc",
-            "include TDFHeaders.inc",
-            " ",
-            "; In next line, BGLHeader N, S, E, W limits of BGL (set by Tidemark)",
-            "BGLHeader 57, 53, 10, 6, LWMHeader, TerrainHeaderStart",
-            " ",
-            "LWMHeader   label   word",
-            " ",
-            "    LWMFileHeader 513, LWMIndexStart, LWMStart, LWMEnd",
-            " ",
-            "LWMStart    label   word",
-            " ",
-            "    datamark_0  label   word",
-            " ",
-            "       LWMDataAreaDrawPolygons 1, 3, 1, 12, 7",
-            "         LWMPoly2 4, 0, 1, 15, 0",
-            "           LWMPoint 0, 0",
-            "           LWMPoint 255, 0",
-            "           LWMPoint 255, 255",
-            "           LWMPoint 0, 255",
-            "    datamark_1  label   word",
-            " ",
-            "    Cellv_400_100    EQU  LWMCellID 0, 0, 3, 400, 100",
-            " ",
-            "    LWMIndexStart   label   word",
-            " ",
-            "        LWMIndexHeader 1, LWMIndexData",
-            " ",
-            "    LWMIndexData    label   word",
-            " ",
-            "        LWMIndexEntry Cellv_400_100, LWMStart, datamark_0, datamark_1",
-            " ",
-            "LWMEnd  label   word",
-            " ",
-            "; End of LWM file",
-        }));
+    EXPECT_EQ(LWM_file_bytes(p), Expected_file("one-polygon-LWM.asm"));
     p.LWMCount = 0;
     EXPECT_EQ(Split(LWM_file_bytes(p)).size(), 33U);
 
