@@ -62,6 +62,7 @@ void EditPoint::Lay_out() {
     for (QWidget* const part :
          std::initializer_list<QWidget*>{Option1_, VTP_fields_, Option2_, cell_fields_, buttons})
         column->addWidget(part);
+    column->addStrut(2 * fontMetrics().horizontalAdvance(windowTitle()));  // the title fits above
     column->setSizeConstraint(QLayout::SetFixedSize);
 }
 
