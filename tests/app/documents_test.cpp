@@ -1,5 +1,5 @@
-// The documents against the program: every link leads somewhere, every menu entry, control and
-// message that they name is one of the program's, and the tutorial's numbers give what it promises.
+// The documents against the program: every link leads somewhere, and every menu entry, control
+// and message that they name is one of the program's.
 #include <filesystem>
 #include <regex>
 #include <set>
@@ -7,10 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "fakes/environment.h"
-#include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
-#include "lwm/polygon_builder.h"
-#include "model/drawing_modes.h"
 
 namespace tidemark {
 namespace {
@@ -90,32 +86,6 @@ TEST_P(DocumentsTest, EveryMenuEntryControlAndMessageIsTheProgramsOwn) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DocumentsTest, testing::Values("Instructions.html", "Tutorial.html"));
-
-TEST(TutorialTest, ItsCoastlineGivesWaterAndLandInAllFiveCells) {
-    std::vector<std::pair<int, int>> points;
-    for (const std::string& row : Found(File_content(folder + "Tutorial.html"),
-                                        R"((\[ \d+, \d+ \]</code></td><td>\d+, \d+)</td>)")) {
-        int column = 0, cell_row = 0, x = 0, y = 0;
-        std::sscanf(row.c_str(), "[ %d, %d ]</code></td><td>%d, %d", &column, &cell_row, &x, &y);
-        points.emplace_back(4080 + 256 * column + x, 4080 + 256 * cell_row + y);
-    }
-    EXPECT_EQ(points.size(), 9U);
-    Project project;
-    Add_segment(project, 2, 40, points);
-    RecordingMessages messages;
-    project.CursorCellY = 14;
-    for (const auto& [mode, x, y] : {std::tuple{WaterPolygon, 180, 40}, {LandPolygon, 60, 240}}) {
-        for (int column = 23; column <= 27; ++column) {
-            project.DrawMode = mode;
-            project.CursorCellX = column;
-            project.CursorInCellX = x;
-            project.CursorInCellY = y;
-            EXPECT_EQ(Add_LWM_Poly(project, messages, HeightChoice::Explicit, "0").StatusLine, "");
-        }
-    }
-    EXPECT_EQ(project.LWMCount, 10);
-    EXPECT_TRUE(messages.Shown.empty());
-}
 
 }  // namespace
 }  // namespace tidemark

@@ -78,7 +78,7 @@ class RecordingPrograms : public Programs {
     std::vector<std::string> Shown;
     std::vector<Command> Started;
     bool CanShow = true, CanStart = true;
-    std::string Advice;  // when it cannot start
+    std::string Advice;  // not empty: it cannot start either
     bool Ended = false;  // whether what was started has ended
 
     bool Show(const std::string& document) override {
@@ -88,7 +88,7 @@ class RecordingPrograms : public Programs {
 
     ProgramStart Start(const Command& command) override {
         Started.push_back(command);
-        if (!CanStart) return {nullptr, Advice};
+        if (!CanStart || !Advice.empty()) return {nullptr, Advice};
         return {std::make_unique<Running>(Ended), ""};
     }
 

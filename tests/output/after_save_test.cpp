@@ -72,6 +72,12 @@ TEST(AfterSaveTest, ShowsThenCompilesThenCopiesWhatIsAskedFor) {
     EXPECT_EQ(copy.files.Content.size(), 5U);
     EXPECT_TRUE(copy.patience.Waited == 0 && copy.programs.Started.empty());
 
+    Sequence named_like_it;
+    named_like_it.task = {"/s/Coast.BGL", false, true, false, ""};
+    named_like_it.files.Content["/s/Coast.BGL"] = "text";
+    EXPECT_EQ(named_like_it.Run(), Texts());
+    EXPECT_TRUE(named_like_it.files.Exists("/s/Coast.BGL")) << "never deleted";
+
     Sequence nothing;
     nothing.task = {nothing.task.File, false, false, false, ""};
     EXPECT_EQ(nothing.Run(), Texts());
@@ -92,11 +98,7 @@ TEST(AfterSaveTest, EachFailureEndsTheSequence) {
           {[](Sequence& s) { s.files.Undeletable = {bgl}; }, compiler_problem, 0, true},
           {[](Sequence& s) { s.files.Content.erase("/s/BGLC.EXE"); }, compiler_missing, 0, false},
           {[](Sequence& s) { s.programs.CanStart = false; }, compiler_problem, 1, false},
-          {[](Sequence& s) {
-               s.programs.CanStart = false;
-               s.programs.Advice = "Please install wine";
-           },
-           "Please install wine", 1, false},
+          {[](Sequence& s) { s.programs.Advice = "Install wine"; }, "Install wine", 1, false},
           {[](Sequence&) {}, "Skye-VTP.BGL not found!", 1, false}}) {
         Sequence sequence;
         break_it(sequence);
@@ -106,15 +108,11 @@ TEST(AfterSaveTest, EachFailureEndsTheSequence) {
         EXPECT_EQ(sequence.files.Exists(bgl), old_file_stays) << warning;
         EXPECT_TRUE(sequence.files.Exists("/s/Skye-VTP.asm")) << warning;
     }
-}
-
-TEST(AfterSaveTest, AnAssemblerFileNamedLikeTheCompiledOneIsNeverDeleted) {
-    for (const char* file : {"/s/Coast.bgl", "/s/Coast.BGL"}) {
-        Sequence sequence;
-        sequence.task = {file, false, true, false, ""};
-        sequence.files.Content[file] = "text";
-        EXPECT_EQ(sequence.Run(), Texts());
-        EXPECT_TRUE(sequence.files.Exists(file)) << file;
+    for (const std::string folder : {"", "/no", "/fs/"}) {  // the last one is full
+        Sequence copying;
+        copying.task = {copying.task.File, false, false, true, folder};
+        if (folder == "/fs/") copying.files.WriteError = "No space left on device";
+        EXPECT_EQ(copying.Run(), Texts{compiler_problem}) << folder;
     }
 }
 

@@ -37,10 +37,7 @@ TEST(OutputPreferencesTest, OKRefusesWhatIsNoNameOrCannotBeSaved) {
     const std::string invalid = "Selected filename root is not valid";
     const std::string unusable =
         "This name cannot be used: it holds a line end or a NUL, or it is too long.";
-    struct Case {
-        std::string Root, Folder, Warning;
-    };
-    for (const auto& [root, folder, warning] : {Case{"/out/Skye.asm", "", ""},
+    for (const auto& [root, folder, warning] : {std::array<std::string, 3>{"/out/Skye.asm", "", ""},
                                                 {"/out/Skye", "/fs", invalid},
                                                 {"/out/Sk\nye.asm", "/fs", unusable},
                                                 {"/out/Skye.asm", "/fs\r", unusable},

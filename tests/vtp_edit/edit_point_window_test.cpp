@@ -35,10 +35,8 @@ class EditPointTest : public testing::Test {
         return edited;
     }
 
-    std::string Text(const char* field) {
-        return Control<QLineEdit>(dialog, field).text().toStdString();
-    }
-    bool Is_enabled(const char* field) { return Control<QLineEdit>(dialog, field).isEnabled(); }
+    QLineEdit& Field(const char* name) { return Control<QLineEdit>(dialog, name); }
+    QString Text(const char* name) { return Field(name).text(); }
 
     Project project;
     RecordingMessages messages;
@@ -46,20 +44,20 @@ class EditPointTest : public testing::Test {
 };
 
 TEST_F(EditPointTest, ShowsThePlaceInTheAreaAndInTheCell) {
-    for (const auto& [x, y, in_cell, cell] : {std::tuple{5000, 6000, "152/128", "[ 3, 7 ]"},
-                                              {4848, 5615, "0/255", "[ 3, 5 ]"},
-                                              {4847, 5000, "255/152", "[ 2, 3 ]"},
-                                              {5360, 5360, "0/0", "[ 5, 5 ]"}}) {
+    for (const auto& [x, y, in_cell, cell] :
+         {std::tuple{5000, 6000, "152/128", "Current LOD13 cell is [ 3, 7 ]"},
+          {4848, 5615, "0/255", "Current LOD13 cell is [ 3, 5 ]"},
+          {4847, 5000, "255/152", "Current LOD13 cell is [ 2, 3 ]"},
+          {5360, 5360, "0/0", "Current LOD13 cell is [ 5, 5 ]"}}) {
         project.VTPPoint(1, 0) = x;
         project.VTPPoint(1, 1) = y;
         EXPECT_FALSE(Edit([&] {
-            EXPECT_EQ(Text("VTPX") + Text("VTPY"), std::to_string(x) + std::to_string(y));
+            EXPECT_EQ(Text("VTPX") + Text("VTPY"), QString::number(x) + QString::number(y));
             EXPECT_EQ(Text("LOD13X") + "/" + Text("LOD13Y"), in_cell);
-            EXPECT_EQ(Control<QLabel>(dialog, "CellLabel").text().toStdString(),
-                      std::string("Current LOD13 cell is ") + cell);
-            EXPECT_EQ(project.CursorInCellX, std::stoi(Text("LOD13X")));
-            EXPECT_TRUE(Is_enabled("VTPX") && !Is_enabled("LOD13X"));
-            Type(Control<QLineEdit>(dialog, "VTPX"), "5001");
+            EXPECT_EQ(Control<QLabel>(dialog, "CellLabel").text(), cell);
+            EXPECT_EQ(project.CursorInCellX, Text("LOD13X").toInt());
+            EXPECT_TRUE(Field("VTPX").isEnabled() && !Field("LOD13X").isEnabled());
+            Type(Field("VTPX"), "5001");
             Press(dialog, Qt::Key_Escape);
         }));
         EXPECT_EQ(project.VTPPoint(1, 0), x);
@@ -93,9 +91,9 @@ TEST_F(EditPointTest, TheChosenFormIsCheckedAndStored) {
         messages.Shown.clear();
         const bool accepted = Edit([&, x = x, y = y, in_cell = in_cell] {
             Click(Control<QRadioButton>(dialog, in_cell ? "Option2" : "Option1"));
-            Type(Control<QLineEdit>(dialog, in_cell ? "LOD13X" : "VTPX"), x);
-            Type(Control<QLineEdit>(dialog, in_cell ? "LOD13Y" : "VTPY"), y);
-            Press(Control<QLineEdit>(dialog, in_cell ? "LOD13Y" : "VTPY"), Qt::Key_Return);
+            Type(Field(in_cell ? "LOD13X" : "VTPX"), x);
+            Type(Field(in_cell ? "LOD13Y" : "VTPY"), y);
+            Press(Field(in_cell ? "LOD13Y" : "VTPY"), Qt::Key_Return);
             if (!messages.Shown.empty()) dialog.close();
         });
         EXPECT_EQ(accepted, std::string(warning).empty()) << x << ", " << y;

@@ -29,10 +29,7 @@ class VTPFrameTest : public testing::Test {
         frame.Add_VTP_Point();
     }
 
-    void Click_line(int position) {
-        const QRect line = list.visualRect(list.model()->index(position, 0));
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, line.center());
-    }
+    QPoint Line(int position) { return list.visualRect(list.model()->index(position, 0)).center(); }
 
     int Scrolled() {
         QCoreApplication::processEvents();
@@ -54,7 +51,7 @@ TEST_F(VTPFrameTest, PointsAreDrawnInsertedReversedAndDeleted) {
     EXPECT_FALSE(new_segment.isChecked());
     EXPECT_EQ(frame.Selected(), 2);
 
-    Click_line(1);
+    Click_at(*list.viewport(), Line(1));
     EXPECT_EQ(redraws.size(), 4);
     Click_map(5005, 6003);
     EXPECT_EQ(frame.Selected(), 1);
@@ -113,9 +110,8 @@ TEST_F(VTPFrameTest, TheListKeepsItsPlaceItsSelectionAndTheFocus) {
     project.VTPCount = 5;
     frame.Refresh_VTP_List();
     EXPECT_EQ(frame.Selected(), 4);
-    const QRect last = list.visualRect(list.model()->index(4, 0));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, last.center() + QPoint(0, 60));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, last.center());
+    Click_at(*list.viewport(), Line(4) + QPoint(0, 60));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, Line(4));
     EXPECT_EQ(frame.Selected(), 4);
 }
 
