@@ -1,6 +1,4 @@
-// The main window, driven as a user would.
-#include <fstream>
-
+// The main window and its boxes, driven as a user would.
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
@@ -10,9 +8,11 @@
 #include <gtest/gtest.h>
 
 #include "app/tidemark_main_window.h"
+#include "fakes/environment.h"
 #include "fakes/sample_projects.h"
 #include "fakes/temporary_folder.h"
 #include "model/project_file.h"
+#include "platform/qt_messages.h"
 #include "walk/driver.h"
 
 namespace tidemark {
@@ -22,69 +22,54 @@ class MainWindowTest : public testing::Test {
   protected:
     MainWindowTest() { window_.show(); }
 
+    QString Path(const char* name) { return QString::fromStdString(folder_ / name); }
+
     // A project file with a river and no background, its preferences set.
-    QString Write_project(const std::string& name) {
+    QString Write_project(const char* name) {
         Project p;
         Add_segment(p, 5, 80, {{5000, 6000}, {5010, 6000}});
         p.PrefsSet = true;
         p.VTPFileName = folder_ / "river-VTP.asm";
         p.ProjectFile = folder_ / name;
-        DiskFiles().Replace(p.ProjectFile, Project_bytes(p, "then"));
-        return QString::fromStdString(p.ProjectFile);
+        Write_file(p.ProjectFile, Project_bytes(p, "then"));
+        return Path(name);
     }
-
-    bool Is_enabled(const char* entry) { return window_.findChild<QAction*>(entry)->isEnabled(); }
 
     TemporaryFolder folder_;
     TidemarkMain window_;
     Plan plan_;
 };
 
-struct EntryLine {
-    const char *Menu, *Name, *Caption;
-    bool Enabled;
-};
-
 TEST_F(MainWindowTest, TheMenuIsWholeAndStartsAsItShould) {
-    constexpr EntryLine expected[] = {
-        {"FileMenu", "FileOpen", "&Open Project", true},
-        {"FileMenu", "FileSave", "&Save Project", false},
-        {"FileMenu", "FileSaveAs", "Save Project &As ...", true},
-        {"FileMenu", "FileExit", "E&xit", true},
-        {"BackgroundMenu", "BackgroundLoad", "&Load background image", true},
-        {"BackgroundMenu", "BackgroundProperties", "Change background &properties", false},
-        {"Output", "LWMsave", "Save &LWM data to file", false},
-        {"Output", "VTPsave", "Save &VTP data to file", false},
-        {"Output", "OutputPreferences", "&Preferences", true},
-        {"HelpMenu", "ShowStatus", "&Show Status Panel", true},
-        {"HelpMenu", "CellCalc", "&Cell Calculator", true},
-        {"HelpMenu", "Instructions", "&Instructions", true},
-        {"HelpMenu", "Tutorial", "&Tutorial", true},
-        {"HelpMenu", "HelpAbout", "&About", true},
-    };
-    for (const EntryLine& entry : expected) {
-        const auto actions = Control<QMenu>(window_, entry.Menu).actions();
-        const auto* const action = window_.findChild<QAction*>(entry.Name);
-        ASSERT_TRUE(action && actions.contains(action)) << entry.Name;
-        EXPECT_EQ(action->text(), entry.Caption);
-        EXPECT_EQ(action->isEnabled(), entry.Enabled) << entry.Name;
-    }
+    QString menu;
+    for (const char* name : {"FileMenu", "BackgroundMenu", "Output", "HelpMenu"})
+        for (const QAction* entry : Control<QMenu>(window_, name).actions())
+            if (!entry->isSeparator())
+                menu +=
+                    entry->objectName() + (entry->isEnabled() ? "=" : "-") + entry->text() + "; ";
+    EXPECT_EQ(menu,
+              "FileOpen=&Open Project; FileSave-&Save Project; FileSaveAs=Save Project &As ...; "
+              "FileExit=E&xit; BackgroundLoad=&Load background image; "
+              "BackgroundProperties-Change background &properties; "
+              "LWMsave-Save &LWM data to file; VTPsave-Save &VTP data to file; "
+              "OutputPreferences=&Preferences; ShowStatus=&Show Status Panel; "
+              "CellCalc=&Cell Calculator; Instructions=&Instructions; Tutorial=&Tutorial; "
+              "HelpAbout=&About; ");
     EXPECT_EQ(window_.windowTitle(), "Tidemark");
 }
 
-TEST_F(MainWindowTest, ThePanelStandsBesideTheMapAndCanBeHiddenAndShown) {
+TEST_F(MainWindowTest, ThePanelStandsBesideTheMapAndCanBeHiddenAndShownUntilTheExit) {
     auto& panel = Control<Status>(window_, "Status");
     EXPECT_TRUE(panel.isVisible());
     EXPECT_EQ(panel.windowTitle(), "Tidemark - Status Panel");
     EXPECT_FALSE(panel.frameGeometry().intersects(window_.frameGeometry()));
-    EXPECT_EQ(Control<QLabel>(panel, "StatusLabel1").text(), "--");
     Click(Control<QPushButton>(panel, "HideButton"));
     EXPECT_FALSE(panel.isVisible());
     Choose_entry(window_, "HelpMenu", "ShowStatus");
     EXPECT_TRUE(panel.isVisible());
-    panel.close();
-    EXPECT_FALSE(panel.isVisible());
-    EXPECT_TRUE(window_.isVisible());
+    Choose_entry(window_, "FileMenu", "FileExit");
+    EXPECT_FALSE(window_.isVisible() || panel.isVisible());
+    EXPECT_TRUE(plan_.Messages().empty());
 }
 
 TEST_F(MainWindowTest, TheDialogsOfThePanelLeadBackToIt) {
@@ -107,38 +92,24 @@ TEST_F(MainWindowTest, TheDialogsOfThePanelLeadBackToIt) {
 }
 
 TEST_F(MainWindowTest, AProjectIsOpenedItsVTPFileSavedAndItSavedUnderANewName) {
-    const QString path = Write_project("river one.tdm");
-    const QString copy = QString::fromStdString(folder_ / "copy");
-    // Then the file is saved, the compiler is missed, and the project is saved under its new name.
-    plan_.Then_choose(path).Then_answer().Then_answer().Then_choose(copy).Then_answer();
+    // The file is saved, the compiler is missed, and the project is saved under its new name.
+    plan_.Then_choose(Write_project("river one.tdm")).Then_answer().Then_answer();
+    plan_.Then_choose(Path("copy")).Then_answer();
     Choose_entry(window_, "FileMenu", "FileOpen");
     EXPECT_EQ(window_.windowTitle(), "Tidemark - RIVER ONE.TDM");
     EXPECT_EQ(window_.Current_project().VTPCount, 2);
-    EXPECT_TRUE(Is_enabled("FileSave"));
-    EXPECT_TRUE(Is_enabled("VTPsave"));
-
+    EXPECT_TRUE(window_.findChild<QAction*>("FileSave")->isEnabled());
     Choose_entry(window_, "Output", "VTPsave");
-    EXPECT_TRUE(std::ifstream(folder_ / "river-VTP.asm").good());
-
     Choose_entry(window_, "FileMenu", "FileSaveAs");
     EXPECT_EQ(window_.windowTitle(), "Tidemark - COPY.TDM");
-    EXPECT_TRUE(std::ifstream(folder_ / "copy.TDM").good());
+    EXPECT_EQ(folder_.Names(),
+              (std::vector<std::string>{"copy.TDM", "river one.tdm", "river-VTP.asm"}));
     ASSERT_NO_THROW(plan_.Finish());
     ASSERT_EQ(plan_.Messages().size(), 3U);
     EXPECT_EQ(plan_.Messages()[0], "Tidemark - File saved: VTP file saved OK");
     EXPECT_TRUE(plan_.Messages()[1].contains("BGLC.EXE was not found!"));
-    EXPECT_EQ(plan_.Messages()[2], "Tidemark - Saved OK: " + copy + ".TDM saved successfully");
-}
-
-TEST_F(MainWindowTest, ARefusedFileIsNamedInTheStatusBarAndTheProjectStays) {
-    window_.Open(Write_project("good.tdm"));
-    const Project before = window_.Current_project();
-    std::ofstream(folder_ / "bad.tdm") << "x saved on y\n1\n2\n3\n4\n70000\n";
-    window_.Open(QString::fromStdString(folder_ / "bad.tdm"));
-    EXPECT_EQ(window_.statusBar()->currentMessage(),
-              "bad.tdm, line 6: BGLOD8X does not fit -32768..32767: 70000");
-    EXPECT_EQ(window_.windowTitle(), "Tidemark - GOOD.TDM");
-    EXPECT_TRUE(window_.Current_project() == before);
+    EXPECT_EQ(plan_.Messages()[2],
+              "Tidemark - Saved OK: " + Path("copy.TDM") + " saved successfully");
 }
 
 TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpenedUnder) {
@@ -151,11 +122,9 @@ TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpened
     EXPECT_EQ(window_.windowTitle(), "Tidemark - MOVED.TDM");
 }
 
-TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndOtherThingsCannot) {
-    const auto drop = [this](const QStringList& paths) {
+TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndARefusedOneLeavesTheProject) {
+    const auto drop = [this](const QList<QUrl>& urls) {
         QMimeData data;
-        QList<QUrl> urls;
-        for (const QString& path : paths) urls << QUrl::fromLocalFile(path);
         data.setUrls(urls);
         QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QDropEvent drop_event({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -165,19 +134,27 @@ TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndOtherThingsCannot) {
         QCoreApplication::processEvents();
         return enter.isAccepted();
     };
-    const QString path = Write_project("Dropped.TDM");
-    EXPECT_FALSE(drop({"/some/map.jpg"}));
-    EXPECT_FALSE(drop({path, path}));
+    const QUrl good = QUrl::fromLocalFile(Write_project("good.TDM"));
+    EXPECT_FALSE(drop({QUrl::fromLocalFile("/some/map.jpg")}));
+    EXPECT_FALSE(drop({good, good}));
     EXPECT_EQ(window_.windowTitle(), "Tidemark");
-    EXPECT_TRUE(drop({path}));
-    EXPECT_EQ(window_.windowTitle(), "Tidemark - DROPPED.TDM");
+    EXPECT_TRUE(drop({good}));
+    const Project before = window_.Current_project();
+    Write_file(folder_ / "bad.tdm", "x saved on y\n1\n2\n3\n4\n70000\n");
+    EXPECT_TRUE(drop({QUrl::fromLocalFile(Path("bad.tdm"))}));
+    EXPECT_EQ(window_.statusBar()->currentMessage(),
+              "bad.tdm, line 6: BGLOD8X does not fit -32768..32767: 70000");
+    EXPECT_EQ(window_.windowTitle(), "Tidemark - GOOD.TDM");
+    EXPECT_TRUE(window_.Current_project() == before);
 }
 
-TEST_F(MainWindowTest, ExitWithoutChangesEndsAtOnce) {
-    Choose_entry(window_, "FileMenu", "FileExit");
-    EXPECT_FALSE(window_.isVisible());
-    EXPECT_FALSE(Control<Status>(window_, "Status").isVisible());
-    EXPECT_TRUE(plan_.Messages().empty());
+TEST_F(MainWindowTest, ABoxShowsItsMessageAsItIsAndEscapeIsNo) {
+    QtMessages messages(window_);
+    plan_.Then_answer(QMessageBox::Yes).Then([](QWidget& box) { Press(box, Qt::Key_Escape); });
+    EXPECT_TRUE(Ask(messages, "Title", "<b>as it is</b>\nsecond line"));
+    EXPECT_FALSE(Ask(messages, "Title", "Exit?"));
+    EXPECT_NO_THROW(plan_.Finish());
+    EXPECT_EQ(plan_.Messages().front(), "Title: <b>as it is</b>\nsecond line");
 }
 
 }  // namespace

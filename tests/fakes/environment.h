@@ -45,8 +45,7 @@ inline void Write_program(const std::string& path, const std::string& content) {
     std::filesystem::permissions(path, std::filesystem::perms::owner_all);
 }
 
-// A program that writes what it is given into `record`: the folder it runs in, then each argument
-// on a line of its own.
+// A program that writes the folder it runs in and its arguments into `record`, each on a line.
 inline void Write_recorder(const std::string& path, const std::string& record) {
     Write_program(path, "#!/bin/sh\n{ pwd; for a in \"$@\"; do printf '%s\\n' \"$a\"; done; } > '" +
                             record + ".part'\nmv '" + record + ".part' '" + record + "'\n");

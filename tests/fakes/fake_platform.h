@@ -1,17 +1,20 @@
-// A whole platform of doubles for rules that need several of its services.
+// A platform that lives in memory: what the rules ask of it is written down, and the test says how
+// it answers.
 #pragma once
 
-#include <deque>
-#include <vector>
+#include <functional>
+#include <map>
+#include <set>
+#include <strings.h>
 
-#include "fakes/memory_files.h"
 #include "fakes/recording_messages.h"
-#include "fakes/recording_programs.h"
+#include "platform/patience.h"
 #include "platform/platform.h"
+#include "platform/programs.h"
 
 namespace tidemark {
 
-// Choosers that are written down and answered by the test; cancelled when no answer is left.
+// Choosers are cancelled when no answer is left.
 class RecordingChoosers : public Choosers {
   public:
     std::vector<FileChooser> Shown;
@@ -29,6 +32,84 @@ class RecordingChoosers : public Choosers {
 class StoppedClock : public Clock {
   public:
     std::string Now_text() override { return "now"; }
+};
+
+class MemoryFiles : public Files {
+  public:
+    std::map<std::string, std::string> Content;
+    std::string WriteError;  // when not empty, every write fails with it
+    std::set<std::string> Undeletable;
+
+    bool Exists(const std::string& path) override { return Content.contains(path); }
+    std::string Full_path(const std::string& path) override { return path; }
+
+    std::optional<std::string> Find(const std::string& path) override {
+        if (Exists(path)) return path;
+        for (const auto& [name, content] : Content)
+            if (strcasecmp(name.c_str(), path.c_str()) == 0) return name;
+        return std::nullopt;
+    }
+
+    std::optional<std::uintmax_t> Size(const std::string& path) override {
+        return Exists(path) ? std::optional(Content[path].size()) : std::nullopt;
+    }
+
+    FileResult Delete(const std::string& path) override {
+        const bool deleted = !Undeletable.contains(path) && Content.erase(path) == 1;
+        return deleted ? FileResult::Done() : FileResult::Failed("Permission denied");
+    }
+
+    FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) override {
+        if (!Exists(path)) return FileResult::Failed("No such file or directory");
+        if (Content[path].size() > limit) return FileResult::Failed("File too large");
+        bytes = Content[path];
+        return FileResult::Done();
+    }
+
+    FileResult Replace(const std::string& path, std::string_view bytes) override {
+        if (!WriteError.empty()) return FileResult::Failed(WriteError);
+        Content[path] = bytes;
+        return FileResult::Done();
+    }
+};
+
+class RecordingPrograms : public Programs {
+  public:
+    std::vector<std::string> Shown;
+    std::vector<Command> Started;
+    bool CanShow = true, CanStart = true;
+    std::string Advice;  // not empty: it cannot start either
+    bool Ended = false;  // whether what was started has ended
+
+    bool Show(const std::string& document) override {
+        Shown.push_back(document);
+        return CanShow;
+    }
+
+    ProgramStart Start(const Command& command) override {
+        Started.push_back(command);
+        if (!CanStart || !Advice.empty()) return {nullptr, Advice};
+        return {std::make_unique<Running>(Ended), ""};
+    }
+
+  private:
+    struct Running : RunningProgram {
+        explicit Running(const bool& ended) : ended_(ended) {}
+        bool Has_ended() override { return ended_; }
+        const bool& ended_;
+    };
+};
+
+// Waiting that takes no time.
+class FakePatience : public Patience {
+  public:
+    int Waited = 0;                      // milliseconds
+    std::function<void(int)> Meanwhile;  // runs at every wait with the milliseconds so far
+
+    void Wait(const std::string&, int milliseconds) override {
+        Waited += milliseconds;
+        if (Meanwhile) Meanwhile(Waited);
+    }
 };
 
 struct FakePlatform {

@@ -3,15 +3,14 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/memory_files.h"
-#include "fakes/recording_messages.h"
-#include "fakes/recording_programs.h"
+#include "fakes/fake_platform.h"
 #include "fakes/sample_projects.h"
 
 namespace tidemark {
 namespace {
 
-const std::string notepad_problem = "There was a problem opening the external program Notepad!";
+using Texts = std::vector<std::string>;
+
 const std::string compiler_problem =
     "There was a problem opening the external program BGLC.EXE.\n"
     "Please ensure that Flight Simulator 2002 is not currently running, and try saving the file "
@@ -20,168 +19,128 @@ const std::string compiler_missing =
     "/s/BGLC.EXE was not found!\n"
     "You need to have BGLC.EXE and the associated include files in the\n"
     "same folder as your Tidemark assembler files.";
+const std::string copied = "Skye-VTP.BGL successfully copied to /fs/";
+const std::string bgl = "/s/Skye-VTP.BGL";
 
-class AfterSaveTest : public testing::Test {
-  protected:
-    AfterSaveTest() {
-        files_.Content = {{"/s/BGLC.EXE", ""}, {"/s/Skye-VTP.asm", "text"}, {"/fs/", ""}};
+// Everything is to be done, and the compiled file of an earlier run is there.
+struct Sequence : FakePlatform {
+    Sequence() {
+        files.Content = {{"/s/BGLC.EXE", ""}, {task.File, ""}, {"/fs/", ""}, {bgl, "old"}};
     }
 
-    std::vector<std::string> Run() {
-        messages_.Shown.clear();
-        After_save(task_, messages_, files_, programs_, patience_);
-        return messages_.Texts();
+    Texts Run() {
+        messages.Shown.clear();
+        After_save(task, messages, files, programs, patience);
+        return messages.Texts();
     }
 
-    using Texts = std::vector<std::string>;
-
-    AfterSaveTask task_{.File = "/s/Skye-VTP.asm", .CopyToFS = false, .FSFolder = "/fs/"};
-    RecordingMessages messages_;
-    MemoryFiles files_;
-    RecordingPrograms programs_;
-    FakePatience patience_;
+    AfterSaveTask task{"/s/Skye-VTP.asm", true, true, true, "/fs/"};
+    FakePatience patience;
 };
 
-TEST_F(AfterSaveTest, TheTasksAreThoseOfTheProject) {
+TEST(AfterSaveTest, TheTasksAreThoseOfTheProject) {
     Project project = Project_of_all_values();
     project.LWMNotepad = true;
-    const AfterSaveTask lwm = LWM_after_save(project);
-    const AfterSaveTask vtp = VTP_after_save(project);
-    EXPECT_EQ(lwm.File + vtp.File + lwm.FSFolder + vtp.FSFolder,
-              project.LWMFileName + project.VTPFileName + project.FSFolder + project.FSFolder);
+    project.VTPCompile = false;
+    const AfterSaveTask lwm = LWM_after_save(project), vtp = VTP_after_save(project);
+    EXPECT_EQ(lwm.File + lwm.FSFolder, project.LWMFileName + project.FSFolder);
+    EXPECT_EQ(vtp.File + vtp.FSFolder, project.VTPFileName + project.FSFolder);
     EXPECT_TRUE(lwm.Notepad && lwm.Compile && lwm.CopyToFS);
-    EXPECT_TRUE(!vtp.Notepad && vtp.Compile && vtp.CopyToFS);
+    EXPECT_TRUE(!vtp.Notepad && !vtp.Compile && vtp.CopyToFS);
 }
 
-TEST_F(AfterSaveTest, NothingToDoStillAsksForTheCompiler) {
-    EXPECT_EQ(Run(), Texts());
-    files_.Content.erase("/s/BGLC.EXE");
-    EXPECT_EQ(Run(), Texts{compiler_missing});
-    EXPECT_TRUE(programs_.Shown.empty() && programs_.Started.empty());
-}
-
-TEST_F(AfterSaveTest, ShowsThenCompilesThenCopies) {
-    task_.Notepad = task_.Compile = task_.CopyToFS = true;
-    files_.Content["/s/Skye-VTP.BGL"] = "old";
-    patience_.Meanwhile = [&](int waited) {
-        EXPECT_EQ(patience_.WhatFor, "Waiting for BGLC.EXE to compile Skye-VTP.asm");
-        EXPECT_FALSE(waited == 100 && files_.Exists("/s/Skye-VTP.BGL")) << "the old one is gone";
-        if (waited == 1000) files_.Content["/s/Skye-VTP.BGL"] = "half";
-        if (waited == 5000) files_.Content["/s/Skye-VTP.BGL"] = "the whole";
-        programs_.Ended = waited >= 5000;
+TEST(AfterSaveTest, ShowsThenCompilesThenCopiesWhatIsAskedFor) {
+    Sequence all;
+    all.patience.Meanwhile = [&](int waited) {
+        EXPECT_FALSE(waited == 100 && all.files.Exists(bgl)) << "the old one is gone";
+        if (waited == 1000) all.files.Content[bgl] = "half";
+        if (waited == 5000) all.files.Content[bgl] = "the whole";
+        all.programs.Ended = waited >= 5000;
     };
-    EXPECT_EQ(Run(), Texts{"Skye-VTP.BGL successfully copied to /fs/"});
-    EXPECT_EQ(messages_.Shown[0].Title, "Tidemark - File OK");
-    EXPECT_EQ(messages_.Shown[0].Icon, MessageIcon::Information);
-    EXPECT_EQ(programs_.Shown, Texts{"/s/Skye-VTP.asm"});
-    EXPECT_EQ(programs_.Started, std::vector({Command{"/s/BGLC.EXE", {"/s/Skye-VTP.asm"}, "/s/"}}));
-    EXPECT_EQ(files_.Content["/fs/Skye-VTP.BGL"], "the whole");
+    EXPECT_EQ(all.Run(), Texts{copied});
+    EXPECT_EQ(all.messages.Shown[0].Title, "Tidemark - File OK");
+    EXPECT_EQ(all.programs.Shown, Texts{"/s/Skye-VTP.asm"});
+    EXPECT_EQ(all.programs.Started,
+              std::vector({Command{"/s/BGLC.EXE", {"/s/Skye-VTP.asm"}, "/s/"}}));
+    EXPECT_EQ(all.files.Content["/fs/Skye-VTP.BGL"], "the whole");
+
+    Sequence copy;  // over the file of that name, whatever its case
+    copy.files.Content["/fs/skye-vtp.bgl"] = "";
+    copy.task = {copy.task.File, false, false, true, "/fs\\"};
+    EXPECT_EQ(copy.Run(), Texts{"Skye-VTP.BGL successfully copied to /fs\\"});
+    EXPECT_EQ(copy.files.Content["/fs/skye-vtp.bgl"], "old");
+    EXPECT_EQ(copy.files.Content.size(), 5U);
+    EXPECT_TRUE(copy.patience.Waited == 0 && copy.programs.Started.empty());
+
+    Sequence named_like_it;
+    named_like_it.task = {"/s/Coast.BGL", false, true, false, ""};
+    named_like_it.files.Content["/s/Coast.BGL"] = "text";
+    EXPECT_EQ(named_like_it.Run(), Texts());
+    EXPECT_TRUE(named_like_it.files.Exists("/s/Coast.BGL")) << "never deleted";
+
+    Sequence nothing;
+    nothing.task = {nothing.task.File, false, false, false, ""};
+    EXPECT_EQ(nothing.Run(), Texts());
+    nothing.files.Content.erase("/s/BGLC.EXE");
+    EXPECT_EQ(nothing.Run(), Texts{compiler_missing});
 }
 
-TEST_F(AfterSaveTest, WithoutCompilingTheFileOfAnEarlierRunIsCopiedAtOnce) {
-    task_.CopyToFS = true;
-    EXPECT_EQ(Run(), Texts{"Skye-VTP.BGL not found!"});
-    files_.Content["/s/Skye-VTP.BGL"] = "earlier";
-    EXPECT_EQ(Run(), Texts{"Skye-VTP.BGL successfully copied to /fs/"});
-    EXPECT_EQ(files_.Content["/fs/Skye-VTP.BGL"], "earlier");
-    EXPECT_EQ(patience_.Waited, 0);
-    EXPECT_TRUE(programs_.Started.empty());
-}
-
-TEST_F(AfterSaveTest, EachFailureEndsTheSequence) {
+TEST(AfterSaveTest, EachFailureEndsTheSequence) {
     struct Case {
-        const char* What;
-        std::function<void()> Break;
+        void (*Break)(Sequence&);
         std::string Warning;
         std::size_t Started;
         bool OldFileStays;
     };
-    const auto files_before = files_.Content;
-    for (const auto& [what, break_it, warning, started, old_file_stays] : {
-             Case{"no opener", [&] { programs_.CanShow = false; }, notepad_problem, 0, true},
-             {"old file cannot be deleted", [&] { files_.Undeletable = {"/s/Skye-VTP.BGL"}; },
-              compiler_problem, 0, true},
-             {"no compiler", [&] { files_.Content.erase("/s/BGLC.EXE"); }, compiler_missing, 0,
-              false},
-             {"compiler cannot start", [&] { programs_.CanStart = false; }, compiler_problem, 1,
-              false},
-             {"compiler cannot start here",
-              [&] {
-                  programs_.CanStart = false;
-                  programs_.Advice = "Please install wine";
-              },
-              "Please install wine", 1, false},
-             {"compiler never writes", [] {}, "Skye-VTP.BGL not found!", 1, false},
-         }) {
-        files_.Content = files_before;
-        files_.Content["/s/Skye-VTP.BGL"] = "old";
-        files_.Undeletable.clear();
-        programs_ = RecordingPrograms();
-        task_.Notepad = task_.Compile = task_.CopyToFS = true;
-        break_it();
-        EXPECT_EQ(Run(), Texts{warning}) << what;
-        EXPECT_EQ(messages_.Shown[0].Title, "Tidemark - Warning") << what;
-        EXPECT_EQ(programs_.Started.size(), started) << what;
-        EXPECT_EQ(files_.Exists("/s/Skye-VTP.BGL"), old_file_stays) << what;
-        EXPECT_TRUE(files_.Exists("/s/Skye-VTP.asm")) << what;
+    for (const auto& [break_it, warning, started, old_file_stays] :
+         {Case{[](Sequence& s) { s.programs.CanShow = false; },
+               "There was a problem opening the external program Notepad!", 0, true},
+          {[](Sequence& s) { s.files.Undeletable = {bgl}; }, compiler_problem, 0, true},
+          {[](Sequence& s) { s.files.Content.erase("/s/BGLC.EXE"); }, compiler_missing, 0, false},
+          {[](Sequence& s) { s.programs.CanStart = false; }, compiler_problem, 1, false},
+          {[](Sequence& s) { s.programs.Advice = "Install wine"; }, "Install wine", 1, false},
+          {[](Sequence&) {}, "Skye-VTP.BGL not found!", 1, false}}) {
+        Sequence sequence;
+        break_it(sequence);
+        EXPECT_EQ(sequence.Run(), Texts{warning});
+        EXPECT_EQ(sequence.messages.Shown[0].Title, "Tidemark - Warning") << warning;
+        EXPECT_EQ(sequence.programs.Started.size(), started) << warning;
+        EXPECT_EQ(sequence.files.Exists(bgl), old_file_stays) << warning;
+        EXPECT_TRUE(sequence.files.Exists("/s/Skye-VTP.asm")) << warning;
     }
-}
-
-TEST_F(AfterSaveTest, TheDestinationNeedsNoLastSeparatorAndKeepsItsFilesCase) {
-    task_.CopyToFS = true;
-    files_.Content["/s/Skye-VTP.BGL"] = "new";
-    files_.Content["/fs/skye-vtp.bgl"] = "old";
-    for (const char* folder : {"/fs", "/fs/", "/fs\\"}) {
-        task_.FSFolder = folder;
-        EXPECT_EQ(Run(), Texts{std::string("Skye-VTP.BGL successfully copied to ") + folder});
-        EXPECT_EQ(std::exchange(files_.Content["/fs/skye-vtp.bgl"], "old"), "new");
-    }
-    EXPECT_FALSE(files_.Exists("/fs/Skye-VTP.BGL"));
-}
-
-TEST_F(AfterSaveTest, AnAssemblerFileNamedLikeTheCompiledOneIsNeverDeleted) {
-    task_.Compile = true;
-    for (const char* file : {"/s/Skye-VTP.bgl", "/s/Skye-VTP.BGL"}) {
-        task_.File = file;
-        files_.Content[file] = "text";
-        EXPECT_EQ(Run(), Texts()) << file;
-        EXPECT_TRUE(files_.Exists(file)) << file;
-        files_.Content.erase(file);
+    for (const std::string folder : {"", "/no", "/fs/"}) {  // the last one is full
+        Sequence copying;
+        copying.task = {copying.task.File, false, false, true, folder};
+        if (folder == "/fs/") copying.files.WriteError = "No space left on device";
+        EXPECT_EQ(copying.Run(), Texts{compiler_problem}) << folder;
     }
 }
 
 // Times in seconds; a negative one is never.
-TEST_F(AfterSaveTest, TheWaitEndsWhenTheFileIsCompleteOrNotToBeExpected) {
+TEST(AfterSaveTest, TheWaitEndsWhenTheFileIsCompleteOrNotToBeExpected) {
     struct Case {
-        const char* What;
         double Ends;
         std::vector<double> Writes;  // each makes the file longer
         std::size_t Copied;          // its length when it is copied, 0 when it is given up
         double Longest;              // for the whole wait
     };
-    for (const auto& [what, ends, writes, copied, longest] :
-         {Case{"ten seconds, all at the end", 10, {9.9}, 1, 11},
-          {"writes for half a minute in pieces", 31, {1, 10, 20, 30}, 4, 32},
-          {"writes, then stays", -1, {2, 3}, 2, 20},
-          {"starts another program and ends", 0.1, {1, 1.2, 1.4}, 3, 2},
-          {"ends without writing", 5, {}, 0, 9},
-          {"never writes and never ends", -1, {}, 0, 61}}) {
-        task_.Compile = task_.CopyToFS = true;
-        files_.Content.erase("/s/Skye-VTP.BGL");
-        files_.Content.erase("/fs/Skye-VTP.BGL");
-        programs_.Ended = false;
-        patience_ = FakePatience();
+    for (const auto& [ends, writes, length, longest] :
+         {Case{10, {9.9}, 1, 11},        // all at the end
+          {31, {1, 10, 20, 30}, 4, 32},  // in pieces
+          {-1, {2, 3}, 2, 20},           // writes, then stays
+          {0.1, {1, 1.2, 1.4}, 3, 2},    // starts another program and ends
+          {5, {}, 0, 9},                 // ends without writing
+          {-1, {}, 0, 61}}) {            // never writes and never ends
+        Sequence sequence;
         std::size_t written = 0;
-        patience_.Meanwhile = [&](int waited) {
+        sequence.patience.Meanwhile = [&](int waited) {
             while (written < writes.size() && waited >= 1000 * writes[written])
-                files_.Content["/s/Skye-VTP.BGL"] = std::string(++written, 'x');
-            programs_.Ended = ends >= 0 && waited >= 1000 * ends;
+                sequence.files.Content[bgl] = std::string(++written, 'x');
+            sequence.programs.Ended = ends >= 0 && waited >= 1000 * ends;
         };
-        EXPECT_EQ(Run(), Texts{copied > 0 ? "Skye-VTP.BGL successfully copied to /fs/"
-                                          : "Skye-VTP.BGL not found!"})
-            << what;
-        EXPECT_EQ(files_.Content["/fs/Skye-VTP.BGL"].size(), copied) << what;
-        EXPECT_LE(patience_.Waited, 1000 * longest) << what;
+        EXPECT_EQ(sequence.Run(), Texts{length > 0 ? copied : "Skye-VTP.BGL not found!"});
+        EXPECT_EQ(sequence.files.Content["/fs/Skye-VTP.BGL"].size(), length) << longest;
+        EXPECT_LE(sequence.patience.Waited, 1000 * longest);
     }
 }
 

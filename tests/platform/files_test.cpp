@@ -1,28 +1,20 @@
-// The machine's files: replaced whole or not at all, read only when they are files.
+// The machine's files: found by name, replaced whole or not at all, read only when they are files.
 #include "platform/files.h"
 
 #include <csignal>
-#include <fstream>
 #include <random>
-#include <sstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
+#include "fakes/environment.h"
 #include "fakes/temporary_folder.h"
 
 namespace tidemark {
 namespace {
-
-std::string Content(const std::string& path) {
-    std::ostringstream content;
-    content << std::ifstream(path, std::ios::binary).rdbuf();
-    return content.str();
-}
 
 class FilesTest : public testing::Test {
   protected:
@@ -31,18 +23,31 @@ class FilesTest : public testing::Test {
     DiskFiles files_;
 };
 
+TEST_F(FilesTest, AFileIsFoundWhateverTheCaseOfItsNameMeasuredAndRemoved) {
+    for (const char* name : {"bglc.exe", "Skye.BGL", "Skye.bgl"}) Write_file(folder_ / name, name);
+    EXPECT_EQ(files_.Find(folder_ / "BGLC.EXE"), folder_ / "bglc.exe");
+    EXPECT_EQ(files_.Find(folder_ / "Skye.bgl"), folder_ / "Skye.bgl")
+        << "its own name comes first";
+    EXPECT_EQ(files_.Find(folder_ / "skye.bgl"), folder_ / "Skye.BGL")
+        << "then the alphabet decides";
+    EXPECT_EQ(files_.Find(folder_ / "no such folder/skye.bgl"), std::nullopt);
+    EXPECT_EQ(files_.Size(folder_ / "Skye.BGL"), 8U);
+    EXPECT_EQ(files_.Size(folder_ / "none"), std::nullopt);
+    EXPECT_EQ(files_.Full_path("-b"), std::filesystem::current_path().string() + "/-b");
+    EXPECT_TRUE(files_.Delete(folder_ / "Skye.BGL"));
+    EXPECT_EQ(files_.Delete(folder_ / "Skye.BGL").Reason(), "No such file or directory");
+    EXPECT_FALSE(files_.Delete(folder_.Path())) << "a folder is not a file";
+}
+
 TEST_F(FilesTest, ReplacingKeepsPermissionsAndLinksAndLeavesNothingBehind) {
     ASSERT_TRUE(files_.Replace(path_, "first"));
     ::chmod(path_.c_str(), 0640);
     const std::string link = folder_ / "link.TDM";
     ASSERT_EQ(::symlink(path_.c_str(), link.c_str()), 0);
     ASSERT_TRUE(files_.Replace(link, "second"));
-    EXPECT_EQ(Content(path_), "second");
-    struct stat status {};
-    ::lstat(link.c_str(), &status);
-    EXPECT_TRUE(S_ISLNK(status.st_mode));
-    ::stat(path_.c_str(), &status);
-    EXPECT_EQ(status.st_mode & 0777, 0640U);
+    EXPECT_EQ(File_content(path_), "second");
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(std::filesystem::status(path_).permissions(), std::filesystem::perms(0640));
     EXPECT_EQ(folder_.Names(), (std::vector<std::string>{"link.TDM", "project.TDM"}));
 }
 
@@ -56,13 +61,12 @@ TEST_F(FilesTest, AFailedReplacementLeavesTheOldFileAndSaysWhy) {
     ::setrlimit(RLIMIT_FSIZE, &before);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.Reason(), "File too large");
-    EXPECT_EQ(Content(path_), "old");
+    EXPECT_EQ(File_content(path_), "old");
     EXPECT_EQ(folder_.Names(), std::vector<std::string>{"project.TDM"});
 
     EXPECT_EQ(files_.Replace(folder_ / "none/x.TDM", "x").Reason(), "No such file or directory");
     EXPECT_EQ(files_.Replace(folder_.Path(), "x").Reason(), "Is a directory");
     EXPECT_EQ(files_.Replace(std::string("a\0b", 3), "x").Reason(), "Invalid argument");
-    EXPECT_FALSE(files_.Replace("", "x"));
 }
 
 // The process is killed at random moments of a save: the file is the old one or the new one.
@@ -73,13 +77,11 @@ TEST_F(FilesTest, AKilledReplacementLeavesTheOldOrTheNewFileWhole) {
     for (int round = 0; round < 60; ++round) {
         ASSERT_TRUE(files_.Replace(path_, old_bytes));
         const pid_t child = ::fork();
-        if (child == 0) {
-            for (;;) DiskFiles().Replace(path_, new_bytes);
-        }
+        while (child == 0) DiskFiles().Replace(path_, new_bytes);
         std::this_thread::sleep_for(std::chrono::microseconds(random() % 3000));
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
-        const std::string found = Content(path_);
+        const std::string found = File_content(path_);
         ASSERT_TRUE(found == old_bytes || found == new_bytes) << found.size();
         renewed += found == new_bytes;
     }
@@ -90,13 +92,13 @@ TEST_F(FilesTest, AKilledReplacementLeavesTheOldOrTheNewFileWhole) {
 TEST_F(FilesTest, OnlyAFileWithinTheLimitIsRead) {
     std::string bytes = "as before";
     ASSERT_TRUE(files_.Replace(path_, "12345"));
-    const std::string pipe = folder_ / "pipe.TDM";
-    ::mkfifo(pipe.c_str(), 0600);
-    EXPECT_EQ(files_.Read(pipe, 100, bytes).Reason(), "Not a regular file");
-    EXPECT_EQ(files_.Read("/dev/zero", 100, bytes).Reason(), "Not a regular file");
-    EXPECT_EQ(files_.Read(folder_.Path(), 100, bytes).Reason(), "Is a directory");
-    EXPECT_EQ(files_.Read(folder_ / "none", 100, bytes).Reason(), "No such file or directory");
-    EXPECT_EQ(files_.Read(path_, 4, bytes).Reason(), "File too large");
+    ::mkfifo((folder_ / "pipe.TDM").c_str(), 0600);
+    for (const auto& [path, reason] : {std::pair{folder_ / "pipe.TDM", "Not a regular file"},
+                                       {"/dev/zero", "Not a regular file"},
+                                       {folder_.Path(), "Is a directory"},
+                                       {folder_ / "none", "No such file or directory"},
+                                       {path_, "File too large"}})
+        EXPECT_EQ(files_.Read(path, 4, bytes).Reason(), reason);
     EXPECT_EQ(bytes, "as before");
     EXPECT_TRUE(files_.Read(path_, 5, bytes));
     EXPECT_EQ(bytes, "12345");

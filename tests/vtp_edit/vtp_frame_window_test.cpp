@@ -22,16 +22,18 @@ class VTPFrameTest : public testing::Test {
         frame.show();
     }
 
-    void Click_map(int x, int y, int mode) {
+    void Click_map(int x, int y) {
         project.CursorVTPX = x;
         project.CursorVTPY = y;
-        project.DrawMode = mode;
+        project.DrawMode = 1;
         frame.Add_VTP_Point();
     }
 
-    void Click_line(int position) {
-        const QRect line = list.visualRect(list.model()->index(position, 0));
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, line.center());
+    QPoint Line(int position) { return list.visualRect(list.model()->index(position, 0)).center(); }
+
+    int Scrolled() {
+        QCoreApplication::processEvents();
+        return list.verticalScrollBar()->value();
     }
 
     Project project;
@@ -44,19 +46,16 @@ class VTPFrameTest : public testing::Test {
 
 TEST_F(VTPFrameTest, PointsAreDrawnInsertedReversedAndDeleted) {
     QSignalSpy redraws(&frame, &VTPFrame::Graphics_outdated);
-    Click_map(5000, 6000, 1);
-    EXPECT_FALSE(new_segment.isChecked());
-    Click_map(5010, 6005, 1);
-    Click_map(5020, 6010, 1);
+    for (const int step : {0, 10, 20}) Click_map(5000 + step, 6000 + step / 2);
     EXPECT_EQ(redraws.size(), 3);
+    EXPECT_FALSE(new_segment.isChecked());
     EXPECT_EQ(frame.Selected(), 2);
 
-    Click_line(1);
+    Click_at(*list.viewport(), Line(1));
     EXPECT_EQ(redraws.size(), 4);
-    Click_map(5005, 6003, 1);
+    Click_map(5005, 6003);
     EXPECT_EQ(frame.Selected(), 1);
     Click(Control<QPushButton>(frame, "ReverseButton"));
-    EXPECT_TRUE(project.DataChanged);
     Type(width, "119.5");
     Click(Control<QPushButton>(frame, "ChangeButton"));
     EXPECT_EQ(width.text(), "120");
@@ -74,65 +73,45 @@ TEST_F(VTPFrameTest, PointsAreDrawnInsertedReversedAndDeleted) {
     EXPECT_TRUE(list.Lines().empty());
 }
 
-TEST_F(VTPFrameTest, AWrongWidthAddsNothingAndAFullListSaysSo) {
-    Type(width, "301");
-    Click_map(5000, 6000, 1);
-    EXPECT_EQ(project.VTPCount, 0);
-    EXPECT_EQ(width.text(), "80");
-    EXPECT_TRUE(new_segment.isChecked());
-
-    project = Largest_project();
-    frame.Refresh_VTP_List();
-    Click_map(5000, 6000, 1);
-    EXPECT_EQ(project.VTPCount, 999);
-    EXPECT_TRUE(new_segment.isChecked());
-    EXPECT_EQ(messages.Shown.size(), 2U);
-}
-
-TEST_F(VTPFrameTest, OnlyConfirmedPreferencesGiveTheSaveEntryAState) {
+TEST_F(VTPFrameTest, AWrongWidthAddsNothingAndOnlyConfirmedPreferencesGiveTheSaveEntryAState) {
     QSignalSpy entry(&frame, &VTPFrame::SaveEntry_changed);
-    Click_map(5000, 6000, 1);
+    Type(width, "301");
+    Click_map(5000, 6000);
+    EXPECT_EQ(width.text(), "80");
+    EXPECT_TRUE(messages.Shown.size() == 1 && project.VTPCount == 0 && new_segment.isChecked());
+    Click_map(5000, 6000);
     EXPECT_TRUE(entry.isEmpty());
     project.PrefsSet = true;
     Press(list, Qt::Key_Delete);
-    EXPECT_EQ(entry.takeFirst().first().toBool(), false);
     Add_cleared_cell(project, 1, 2, 8);
     frame.Refresh_VTP_List();
+    EXPECT_EQ(entry.takeFirst().first().toBool(), false);
     EXPECT_EQ(entry.takeFirst().first().toBool(), true);
 }
 
 TEST_F(VTPFrameTest, TheListKeepsItsPlaceItsSelectionAndTheFocus) {
-    Project largest = Largest_project();
-    largest.VTPCount = 500;
-    project = largest;
+    project = Largest_project();
     frame.Refresh_VTP_List();
-    EXPECT_EQ(frame.Selected(), -1);
     frame.activateWindow();
     list.setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(frame.Selected(), -1);  // focus alone selects nothing
+    EXPECT_EQ(frame.Selected(), -1) << "focus alone selects nothing";
 
     frame.Select(300);
-    QCoreApplication::processEvents();
-    const int scrolled = list.verticalScrollBar()->value();
+    const int scrolled = Scrolled();
     EXPECT_GT(scrolled, 250);
     Press(list, Qt::Key_Delete);
-    frame.Refresh_VTP_List();
-    QCoreApplication::processEvents();
     EXPECT_EQ(frame.Selected(), 299);
-    EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);
+    EXPECT_EQ(Scrolled(), scrolled);
     EXPECT_TRUE(list.hasFocus());
-
     list.verticalScrollBar()->setValue(10);  // the user looks at something else meanwhile
     frame.Refresh_VTP_List();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(list.verticalScrollBar()->value(), 10);
+    EXPECT_EQ(Scrolled(), 10);
 
     project.VTPCount = 5;
     frame.Refresh_VTP_List();
     EXPECT_EQ(frame.Selected(), 4);
-    const QRect last = list.visualRect(list.model()->index(4, 0));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, last.center() + QPoint(0, 60));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, last.center());
+    Click_at(*list.viewport(), Line(4) + QPoint(0, 60));
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, Line(4));
     EXPECT_EQ(frame.Selected(), 4);
 }
 

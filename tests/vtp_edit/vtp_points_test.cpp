@@ -1,178 +1,174 @@
-// Editing the VTP points: the list lines tell what became of points and segments.
+// Random editing of the VTP points beside the same operations on plain points, and the list lines.
 #include "vtp_edit/vtp_points.h"
 
-#include <gmock/gmock.h>
+#include <algorithm>
+#include <memory>
+#include <random>
+
 #include <gtest/gtest.h>
 
 #include "fakes/recording_messages.h"
 #include "fakes/sample_projects.h"
 #include "model/segments.h"
-#include "model/text_forms.h"
 #include "vtp_edit/vtp_list.h"
 
 namespace tidemark {
 namespace {
 
-using Lines = std::vector<std::string>;
+// Points that know their segment by its number, which cannot have a flag wrong.
+struct PlainPoint {
+    int Segment, X, Y, Mode, Width;
+};
 
-Lines Refreshed_lines(Project& project) {
-    Repair_segments(project);
-    return VTP_list_lines(project);
-}
+class PlainModel {
+  public:
+    void Add(PlainPoint point, int selected, bool new_segment) {
+        const int count = static_cast<int>(points_.size());
+        const bool append = selected < 0 || selected == count - 1 || new_segment;
+        const auto place = points_.begin() + (append ? count : selected);
+        const bool starts = new_segment || place == points_.begin();
+        point.Segment = starts ? ++last_segment_ : std::prev(place)->Segment;
+        points_.insert(place, point);
+    }
 
-// Three points of coast, one of plain edge and two of road; each point has a mode and width of its
-// own besides.
-Project Three_segments() {
-    Project project;
-    Add_segment(project, 1, 80, {{5000, 6000}, {5010, 6005}, {5020, 6010}});
-    Add_segment(project, 0, 120, {{5100, 6100}});
-    Add_segment(project, 9, 20, {{5200, 6200}, {5210, 6205}});
-    project.VTPMode(2) = 4;
-    project.VTPWidth(2) = 42;
-    return project;
-}
+    void Delete(int position) { points_.erase(points_.begin() + position); }
+    void Change_width(int position, int width) { Segment_of(position).first->Width = width; }
 
-const Lines ThreeSegments{"[ 5000, 6000 Coast (waves)", "  5010, 6005",
-                          "  5020, 6010 ] W=80",        "[ 5100, 6100 Plain ] W=120",
-                          "[ 5200, 6200 Road (2 lane)", "  5210, 6205 ] W=20"};
+    void Reverse(int position) {
+        auto [first, end] = Segment_of(position);
+        for (; first < end && first < --end; ++first) {
+            std::swap(first->X, end->X);
+            std::swap(first->Y, end->Y);
+        }
+    }
 
-Lines Changed(Lines lines, int position, const std::string& line) {
-    lines[static_cast<std::size_t>(position)] = line;
-    return lines;
-}
+    void Write_to(Project& project) const {
+        int segment = 0;
+        project.VTPCount = 0;
+        for (const PlainPoint& point : points_) {
+            const int i = ++project.VTPCount;
+            project.VTPPoint(i, 0) = point.X;
+            project.VTPPoint(i, 1) = point.Y;
+            project.VTPMode(i) = point.Mode;
+            project.VTPWidth(i) = point.Width;
+            project.VTPSegStart(i) = point.Segment != segment;
+            project.VTPSegEnd(i) =
+                &point == &points_.back() || (&point)[1].Segment != point.Segment;
+            segment = point.Segment;
+        }
+    }
 
-Lines With(Lines lines, int position, const std::string& line) {
-    lines.insert(lines.begin() + position, line);
-    return lines;
-}
+  private:
+    using Iterator = std::vector<PlainPoint>::iterator;
 
-Lines Without(Lines lines, int position) {
-    lines.erase(lines.begin() + position);
-    return lines;
-}
+    std::pair<Iterator, Iterator> Segment_of(int position) {
+        const int segment = points_[static_cast<std::size_t>(position)].Segment;
+        const auto is_in = [=](const PlainPoint& point) { return point.Segment == segment; };
+        const auto first = std::find_if(points_.begin(), points_.end(), is_in);
+        return {first, std::find_if_not(first, points_.end(), is_in)};
+    }
 
-TEST(VTPListTest, LinesShowSegmentsAndTheCodeOfAModeWithoutAName) {
-    Project project = Three_segments();
-    project.VTPSegStart(1) = false;
-    project.VTPSegEnd(2) = true;
-    EXPECT_EQ(Refreshed_lines(project), ThreeSegments);
-    project.VTPMode(4) = 8;
-    EXPECT_EQ(Refreshed_lines(project)[3], "[ 5100, 6100 8 ] W=120");
-    Project empty;
-    EXPECT_EQ(Refreshed_lines(empty), Lines{});
-}
+    std::vector<PlainPoint> points_;
+    int last_segment_ = 0;
+};
 
-TEST(AddVTPPointTest, AppendsOrTakesThePlaceOfTheSelectedPoint) {
-    struct Case {
-        const char* What;
-        int Selected;
-        bool NewSegment;
-        int Position;
-        Lines Expected;
-    };
-    const Lines extended =
-        With(Changed(ThreeSegments, 5, "  5210, 6205"), 6, "  7000, 8000 ] W=20");
-    const Lines started = With(ThreeSegments, 6, "[ 7000, 8000 River ] W=55");
-    for (const Case& c : {
-             Case{"nothing selected", -1, false, 6, extended},
-             Case{"last selected", 5, false, 6, extended},
-             Case{"new segment", -1, true, 6, started},
-             Case{"new segment with a point selected", 1, true, 6, started},
-             Case{"inside a segment", 1, false, 1, With(ThreeSegments, 1, "  7000, 8000")},
-             Case{"before a segment's first point", 3, false, 3,
-                  With(Changed(ThreeSegments, 2, "  5020, 6010"), 3, "  7000, 8000 ] W=80")},
-             Case{"before point 1", 0, false, 0,
-                  With(ThreeSegments, 0, "[ 7000, 8000 River ] W=55")},
-         }) {
-        SCOPED_TRACE(c.What);
-        Project project = Three_segments();
-        project.CursorVTPX = 7000;
-        project.CursorVTPY = 8000;
-        project.DrawMode = 5;
-        RecordingMessages messages;
-        EXPECT_EQ(Add_VTP_Point(project, {c.Selected, c.NewSegment, 55}, messages), c.Position);
-        EXPECT_EQ(Refreshed_lines(project), c.Expected);
-        EXPECT_EQ(project.VTPMode(c.Position + 1), 5);
-        EXPECT_EQ(project.VTPWidth(c.Position + 1), 55);
+class RandomEditing {
+  public:
+    explicit RandomEditing(unsigned seed) : random_(seed) {}
+
+    void Step() {
+        const int selected = Number(-1, project_->VTPCount - 1);
+        const int deletions = project_->VTPCount > 200 ? 5 : 2;  // holds at a few hundred points
+        const int action = Number(0, 5 + deletions);
+        const int width = Number(0, 300);
+        project_->DataChanged = false;
+        if (selected < 0 || action < 4) {
+            Add(selected, width);
+        } else if (action == 4) {
+            Change_segment_width(*project_, selected + 1, width);
+            model_.Change_width(selected, width);
+        } else if (action == 5) {
+            Reverse_segment(*project_, selected + 1);
+            model_.Reverse(selected);
+        } else {
+            Delete_VTP_Point(*project_, selected + 1);
+            model_.Delete(selected);
+        }
+        EXPECT_EQ(project_->DataChanged, selected >= 0 && action == 5);
+        Repair_segments(*project_);
+        *expected_ = *project_;
+        model_.Write_to(*expected_);
+        EXPECT_EQ(*project_, *expected_);
+    }
+
+  private:
+    int Number(int lowest, int highest) {
+        return std::uniform_int_distribution(lowest, highest)(random_);
+    }
+
+    void Add(int selected, int width) {
+        const PlainPoint point{0, Number(4080, 12271), Number(4080, 12271), Number(0, 7), width};
+        const bool new_segment = Number(0, 3) == 0;
+        project_->CursorVTPX = point.X;
+        project_->CursorVTPY = point.Y;
+        project_->DrawMode = point.Mode;
+        const auto place = Add_VTP_Point(*project_, {selected, new_segment, width}, messages_);
+        ASSERT_TRUE(place.has_value());
+        EXPECT_EQ(project_->VTPPoint(*place + 1, 0), point.X);
+        model_.Add(point, selected, new_segment);
+    }
+
+    std::mt19937 random_;
+    std::unique_ptr<Project> project_ = std::make_unique<Project>();
+    std::unique_ptr<Project> expected_ = std::make_unique<Project>();
+    PlainModel model_;
+    RecordingMessages messages_;
+};
+
+TEST(VTPPointsTest, RandomEditingMakesTheSameProjectAsOnPlainPoints) {
+    for (const unsigned seed : {1U, 2U, 3U}) {
+        RandomEditing editing(seed);
+        for (int step = 0; step < 3000 && !testing::Test::HasFailure(); ++step) {
+            SCOPED_TRACE(testing::Message() << "seed " << seed << ", step " << step);
+            editing.Step();
+        }
     }
 }
 
-TEST(AddVTPPointTest, AFullProjectRefusesThePoint) {
+TEST(VTPPointsTest, LinesShowSegmentsAndTheCodeOfAModeWithoutAName) {
+    Project project;
+    Add_segment(project, 1, 80, {{5000, 6000}, {5010, -5}, {5020, 6010}});
+    Add_segment(project, 8, 120, {{5100, 6100}});
+    EXPECT_EQ(VTP_list_lines(project),
+              (std::vector<std::string>{"[ 5000, 6000 Coast (waves)", "  5010, -5",
+                                        "  5020, 6010 ] W=80", "[ 5100, 6100 8 ] W=120"}));
+}
+
+TEST(VTPPointsTest, AFullProjectRefusesThePoint) {
     Project project = Largest_project();
-    const Project before = project;
     RecordingMessages messages;
     EXPECT_EQ(Add_VTP_Point(project, {3, false, 80}, messages), std::nullopt);
-    EXPECT_EQ(project, before);
-    EXPECT_THAT(messages.Texts(), testing::ElementsAre(testing::HasSubstr("999")));
+    EXPECT_EQ(project, Largest_project());
+    EXPECT_NE(messages.Shown.at(0).Text.find("999"), std::string::npos);
 }
 
-TEST(DeleteVTPPointTest, TheNextPointTakesTheStartWithItsOwnModeAndWidth) {
-    struct Case {
-        int Point;
-        Lines Expected;
-    };
-    const Lines own_mode{"[ 5010, 6005 Coast (river)", "  5020, 6010 ] W=42"};
-    for (const auto& [point, expected] : {
-             Case{1, With(With(Without(Without(Without(ThreeSegments, 0), 0), 0), 0, own_mode[1]),
-                          0, own_mode[0])},
-             Case{3, Without(Changed(ThreeSegments, 1, "  5010, 6005 ] W=80"), 2)},
-             Case{4, Without(ThreeSegments, 3)},
-             Case{6, Without(Changed(ThreeSegments, 4, "[ 5200, 6200 Road (2 lane) ] W=20"), 5)},
-         }) {
-        Project project = Three_segments();
-        Delete_VTP_Point(project, point);
-        EXPECT_EQ(Refreshed_lines(project), expected) << point;
-        EXPECT_FALSE(project.DataChanged);
-    }
-    Project project;
-    Add_segment(project, 0, 80, {{5000, 5000}});
-    Delete_VTP_Point(project, 1);
-    EXPECT_EQ(project.VTPCount, 0);
-}
-
-TEST(SegmentEditingTest, WidthAndReversalKeepToTheSegment) {
-    Project project = Three_segments();
-    Change_segment_width(project, 3, 200);
-    Reverse_segment(project, 2);
-    EXPECT_EQ(
-        Refreshed_lines(project),
-        (Lines{"[ 5020, 6010 Coast (waves)", "  5010, 6005", "  5000, 6000 ] W=200",
-               "[ 5100, 6100 Plain ] W=120", "[ 5200, 6200 Road (2 lane)", "  5210, 6205 ] W=20"}));
-    EXPECT_EQ(project.VTPWidth(2), 42);
-    EXPECT_EQ(project.VTPWidth(3), 80);
-    EXPECT_TRUE(project.DataChanged);
-
-    Project single = Three_segments();
-    Reverse_segment(single, 4);
-    EXPECT_EQ(single, Three_segments());
-    EXPECT_TRUE(single.DataChanged);
-}
-
-TEST(TakeWidthTest, RoundsAndRefusesWhatIsNotIn0To300) {
-    struct Case {
-        const char* Typed;
-        const char* Left;
-        std::optional<int> Width;
-    };
-    for (const auto& [typed, left, width] : {Case{"80.5", "80", 80},
-                                             {"81.5", "82", 82},
-                                             {"wide", "0", 0},
-                                             {"-0.4", "0", 0},
-                                             {"300.5", "300", 300},
-                                             {"300.6", "80", {}},
-                                             {"-1", "80", {}},
-                                             {"-0.6", "80", {}},
-                                             {"40000", "80", {}},
-                                             {"-1e999", "80", {}}}) {
+TEST(VTPPointsTest, AWidthIsRoundedAndRefusedOutside0To300) {
+    for (const auto& [typed, left, width] :
+         std::vector<std::tuple<const char*, const char*, std::optional<int>>>{
+             {"80.5", "80", 80},
+             {"81.5", "82", 82},
+             {"wide", "0", 0},
+             {"300.5", "300", 300},
+             {"300.6", "80", {}},
+             {"-0.6", "80", {}},
+             {"40000", "80", {}},
+             {"-1e999", "80", {}}}) {
         RecordingMessages messages;
         std::string text = typed;
         EXPECT_EQ(Take_width(text, messages), width) << typed;
         EXPECT_EQ(text, left) << typed;
-        if (width)
-            EXPECT_TRUE(messages.Shown.empty()) << typed;
-        else
-            EXPECT_THAT(messages.Texts(),
-                        testing::ElementsAre("Coast width must be in the range 0-300"));
+        EXPECT_EQ(messages.Shown.empty() ? "" : messages.Shown[0].Text,
+                  width ? "" : "Coast width must be in the range 0-300");
     }
 }
 
