@@ -43,7 +43,7 @@ TEST_F(FilesTest, ReplacingKeepsPermissionsAndLinksAndLeavesNothingBehind) {
     ASSERT_TRUE(files_.Replace(path_, "first\0bytes"));
     ::chmod(path_.c_str(), 0640);
     const std::string link = folder_ / "link.TDM";
-    ASSERT_EQ(::symlink(path_.c_str(), link.c_str()), 0);
+    std::filesystem::create_symlink(path_, link);
     ASSERT_TRUE(files_.Replace(link, "second"));
     EXPECT_EQ(File_content(path_), "second");
     EXPECT_TRUE(std::filesystem::is_symlink(link));
