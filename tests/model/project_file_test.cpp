@@ -108,14 +108,5 @@ TEST(ProjectFileTest, BytesThatAreNoUTF8AreTakenAsLatin1) {
         EXPECT_EQ(read_back(invalid).size(), 2 * invalid.size());
 }
 
-TEST(ProjectFileTest, ATextThatWouldShiftTheLinesIsFound) {
-    Project p = Project_of_all_values();
-    EXPECT_EQ(Unsavable_text(p), std::nullopt);
-    for (const std::string& text : {"a\nb"s, "\r"s, "\0"s, std::string(32768, 'x')}) {
-        p.FSFolder = text;
-        EXPECT_EQ(Unsavable_text(p), "FSFolder");
-    }
-}
-
 }  // namespace
 }  // namespace tidemark

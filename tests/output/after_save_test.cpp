@@ -11,6 +11,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
+const std::string notepad_problem = "There was a problem opening the external program Notepad!";
 const std::string compiler_problem =
     "There was a problem opening the external program BGLC.EXE.\n"
     "Please ensure that Flight Simulator 2002 is not currently running, and try saving the file "
@@ -20,6 +21,8 @@ const std::string compiler_missing =
     "You need to have BGLC.EXE and the associated include files in the\n"
     "same folder as your Tidemark assembler files.";
 const std::string copied = "Skye-VTP.BGL successfully copied to /fs/";
+const std::string not_found = "Skye-VTP.BGL not found!";
+const std::string advice = "Please install wine";
 const std::string bgl = "/s/Skye-VTP.BGL";
 
 // Everything is to be done, and the compiled file of an earlier run is there.
@@ -86,20 +89,15 @@ TEST(AfterSaveTest, ShowsThenCompilesThenCopiesWhatIsAskedFor) {
 }
 
 TEST(AfterSaveTest, EachFailureEndsTheSequence) {
-    struct Case {
-        void (*Break)(Sequence&);
-        std::string Warning;
-        std::size_t Started;
-        bool OldFileStays;
-    };
+    using Break = void (*)(Sequence&);
     for (const auto& [break_it, warning, started, old_file_stays] :
-         {Case{[](Sequence& s) { s.programs.CanShow = false; },
-               "There was a problem opening the external program Notepad!", 0, true},
-          {[](Sequence& s) { s.files.Undeletable = {bgl}; }, compiler_problem, 0, true},
-          {[](Sequence& s) { s.files.Content.erase("/s/BGLC.EXE"); }, compiler_missing, 0, false},
-          {[](Sequence& s) { s.programs.CanStart = false; }, compiler_problem, 1, false},
-          {[](Sequence& s) { s.programs.Advice = "Install wine"; }, "Install wine", 1, false},
-          {[](Sequence&) {}, "Skye-VTP.BGL not found!", 1, false}}) {
+         {std::tuple{Break{[](Sequence& s) { s.programs.CanShow = false; }}, notepad_problem, 0U,
+                     true},
+          {[](Sequence& s) { s.files.Undeletable = {bgl}; }, compiler_problem, 0U, true},
+          {[](Sequence& s) { s.files.Content.erase("/s/BGLC.EXE"); }, compiler_missing, 0U, false},
+          {[](Sequence& s) { s.programs.CanStart = false; }, compiler_problem, 1U, false},
+          {[](Sequence& s) { s.programs.Advice = advice; }, advice, 1U, false},
+          {[](Sequence&) {}, not_found, 1U, false}}) {
         Sequence sequence;
         break_it(sequence);
         EXPECT_EQ(sequence.Run(), Texts{warning});
@@ -138,7 +136,7 @@ TEST(AfterSaveTest, TheWaitEndsWhenTheFileIsCompleteOrNotToBeExpected) {
                 sequence.files.Content[bgl] = std::string(++written, 'x');
             sequence.programs.Ended = ends >= 0 && waited >= 1000 * ends;
         };
-        EXPECT_EQ(sequence.Run(), Texts{length > 0 ? copied : "Skye-VTP.BGL not found!"});
+        EXPECT_EQ(sequence.Run(), Texts{length > 0 ? copied : not_found});
         EXPECT_EQ(sequence.files.Content["/fs/Skye-VTP.BGL"].size(), length) << longest;
         EXPECT_LE(sequence.patience.Waited, 1000 * longest);
     }

@@ -43,7 +43,7 @@ TEST_F(FilesTest, ReplacingKeepsPermissionsAndLinksAndLeavesNothingBehind) {
     ASSERT_TRUE(files_.Replace(path_, "first"));
     ::chmod(path_.c_str(), 0640);
     const std::string link = folder_ / "link.TDM";
-    ASSERT_EQ(::symlink(path_.c_str(), link.c_str()), 0);
+    std::filesystem::create_symlink(path_, link);
     ASSERT_TRUE(files_.Replace(link, "second"));
     EXPECT_EQ(File_content(path_), "second");
     EXPECT_TRUE(std::filesystem::is_symlink(link));
@@ -73,8 +73,9 @@ TEST_F(FilesTest, AFailedReplacementLeavesTheOldFileAndSaysWhy) {
 TEST_F(FilesTest, AKilledReplacementLeavesTheOldOrTheNewFileWhole) {
     const std::string old_bytes(300000, 'o'), new_bytes(500000, 'n');
     std::mt19937 random(1);
-    int renewed = 0;
-    for (int round = 0; round < 60; ++round) {
+    int rounds = 0, renewed = 0;
+    const auto have_both_come = [&] { return renewed > 0 && renewed < rounds; };
+    for (; rounds < 60 || (rounds < 600 && !have_both_come()); ++rounds) {
         ASSERT_TRUE(files_.Replace(path_, old_bytes));
         const pid_t child = ::fork();
         while (child == 0) DiskFiles().Replace(path_, new_bytes);
@@ -85,8 +86,7 @@ TEST_F(FilesTest, AKilledReplacementLeavesTheOldOrTheNewFileWhole) {
         ASSERT_TRUE(found == old_bytes || found == new_bytes) << found.size();
         renewed += found == new_bytes;
     }
-    EXPECT_GT(renewed, 0);
-    EXPECT_LT(renewed, 60);
+    EXPECT_TRUE(have_both_come()) << "a busy machine takes more rounds";
 }
 
 TEST_F(FilesTest, OnlyAFileWithinTheLimitIsRead) {
