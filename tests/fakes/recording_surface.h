@@ -15,27 +15,25 @@ class RecordingSurface : public DrawingSurface {
   public:
     std::vector<std::string> Operations;
 
-    void Erase() override { Operations.push_back("erase"); }
-    void Pen_width(int pixels) override { Operations.push_back("width " + std::to_string(pixels)); }
-    void Pen_colour(Colour colour) override { Operations.push_back(Text(colour)); }
-    void Line(CanvasPoint from, CanvasPoint to) override {
-        Operations.push_back("line " + Text(from) + " " + Text(to));
+    void Erase() override { Record("erase"); }
+    void Pen_width(int pixels) override { Record("width ", pixels); }
+    void Pen_colour(Colour c) override {
+        Record("colour ", int{c.Red}, " ", int{c.Green}, " ", int{c.Blue});
     }
-    void Circle(CanvasPoint centre, double radius, Colour colour) override {
-        std::ostringstream text;
-        text << "circle " << Text(centre) << " r" << radius << " " << Text(colour);
-        Operations.push_back(text.str());
+    void Line(CanvasPoint from, CanvasPoint to) override {
+        Record("line ", from.X, ",", from.Y, " ", to.X, ",", to.Y);
+    }
+    void Circle(CanvasPoint centre, double radius, Colour c) override {
+        Record("circle ", centre.X, ",", centre.Y, " r", radius, " colour ", int{c.Red}, " ",
+               int{c.Green}, " ", int{c.Blue});
     }
 
   private:
-    static std::string Text(Colour c) {
-        return "colour " + std::to_string(c.Red) + " " + std::to_string(c.Green) + " " +
-               std::to_string(c.Blue);
-    }
-    static std::string Text(CanvasPoint point) {
+    template <class... Parts>
+    void Record(const Parts&... parts) {
         std::ostringstream text;
-        text << point.X << "," << point.Y;
-        return text.str();
+        (text << ... << parts);
+        Operations.push_back(text.str());
     }
 };
 
