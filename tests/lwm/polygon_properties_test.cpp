@@ -107,7 +107,7 @@ std::map<std::string, Outline> Pieces_of(std::vector<Outline> candidates) {
     std::map<std::string, Outline> pieces;
     for (Outline& piece : candidates) {
         const auto order = [](CellPoint p) { return 1000 * int{p.Y} + int{p.X}; };
-        std::ranges::rotate(piece, std::ranges::min_element(piece, {}, order));
+        std::rotate(piece.begin(), std::ranges::min_element(piece, {}, order), piece.end());
         pieces[Points_text(piece)] = piece;
     }
     return pieces;

@@ -122,23 +122,22 @@ TEST(AfterSaveTest, TheWaitEndsWhenTheFileIsCompleteOrNotToBeExpected) {
         std::size_t Copied;          // its length when it is copied, 0 when it is given up
         double Longest;              // for the whole wait
     };
-    for (const auto& [ends, writes, length, longest] :
-         {Case{10, {9.9}, 1, 11},        // all at the end
-          {31, {1, 10, 20, 30}, 4, 32},  // in pieces
-          {-1, {2, 3}, 2, 20},           // writes, then stays
-          {0.1, {1, 1.2, 1.4}, 3, 2},    // starts another program and ends
-          {5, {}, 0, 9},                 // ends without writing
-          {-1, {}, 0, 61}}) {            // never writes and never ends
+    for (const Case& c : {Case{10, {9.9}, 1, 11},        // all at the end
+                          {31, {1, 10, 20, 30}, 4, 32},  // in pieces
+                          {-1, {2, 3}, 2, 20},           // writes, then stays
+                          {0.1, {1, 1.2, 1.4}, 3, 2},    // starts another program and ends
+                          {5, {}, 0, 9},                 // ends without writing
+                          {-1, {}, 0, 61}}) {            // never writes and never ends
         Sequence sequence;
         std::size_t written = 0;
         sequence.patience.Meanwhile = [&](int waited) {
-            while (written < writes.size() && waited >= 1000 * writes[written])
+            while (written < c.Writes.size() && waited >= 1000 * c.Writes[written])
                 sequence.files.Content[bgl] = std::string(++written, 'x');
-            sequence.programs.Ended = ends >= 0 && waited >= 1000 * ends;
+            sequence.programs.Ended = c.Ends >= 0 && waited >= 1000 * c.Ends;
         };
-        EXPECT_EQ(sequence.Run(), Texts{length > 0 ? copied : not_found});
-        EXPECT_EQ(sequence.files.Content["/fs/Skye-VTP.BGL"].size(), length) << longest;
-        EXPECT_LE(sequence.patience.Waited, 1000 * longest);
+        EXPECT_EQ(sequence.Run(), Texts{c.Copied > 0 ? copied : not_found});
+        EXPECT_EQ(sequence.files.Content["/fs/Skye-VTP.BGL"].size(), c.Copied) << c.Longest;
+        EXPECT_LE(sequence.patience.Waited, 1000 * c.Longest);
     }
 }
 
