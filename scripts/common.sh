@@ -11,7 +11,11 @@ fail() {
 build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev"
 walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev"
+windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest wine wine64 zip"
 check_packages="clang-format clang-tidy clang libclang-rt-14-dev"
+
+# Where the Qt that the Windows edition is linked with is kept.
+windows_qt=${TIDEMARK_WINDOWS_QT:-$HOME/.cache/tidemark/windows-qt}
 
 # Installs those of the Debian packages given that are not there yet.
 install_packages() {
