@@ -14,54 +14,59 @@
 namespace tidemark {
 namespace {
 
-Project River_and_polygon() {
-    Project p;
-    Add_segment(p, 5, 80, {{5000, 6000}, {5010, 6000}});
-    Add_polygon(p, 1, 2, 10, 0, 4);
-    p.VTPFileName = "C:\\Scenery\\Skye-VTP.asm";
-    p.LWMFileName = "C:\\Scenery\\Skye-LWM.asm";
-    return p;
-}
+class CompanionTest : public testing::Test {
+  protected:
+    CompanionTest() {
+        Add_segment(river_, 5, 80, {{5000, 6000}, {5010, 6000}});
+        Add_polygon(river_, 1, 2, 10, 0, 4);
+        river_.VTPFileName = "C:\\Scenery\\Skye-VTP.asm";
+        river_.LWMFileName = "C:\\Scenery\\Skye-LWM.asm";
+    }
 
-TEST(CompanionTest, NamesComeFromThePreferencesOrTheProjectAndTheFolderReplacesTheirs) {
+    // What it prints, the errors last.
+    std::string Run(const CompanionTask& task, bool all_is_written) {
+        std::ostringstream written, errors;
+        EXPECT_EQ(Write_assembler_files(task, files_, written, errors), all_is_written);
+        return written.str() + errors.str();
+    }
+
+    Project river_;
+    MemoryFiles files_;
+};
+
+TEST_F(CompanionTest, NamesComeFromThePreferencesOrTheProjectAndTheFolderReplacesTheirs) {
     for (const auto& [prefs_set, folder, out] :
          {std::tuple{true, "", "C:\\Scenery\\Skye-VTP.asm\nC:\\Scenery\\Skye-LWM.asm\n"},
           {true, "to", "to/Skye-VTP.asm\nto/Skye-LWM.asm\n"},
           {false, "", "in/v1.2/river-VTP.asm\nin/v1.2/river-LWM.asm\n"},
           {false, "to", "to/river-VTP.asm\nto/river-LWM.asm\n"}}) {
-        Project p = River_and_polygon();
-        p.PrefsSet = prefs_set;
-        MemoryFiles files;
-        files.Content["in/v1.2/river.TDM"] = Project_bytes(p, "");
-        std::ostringstream written, errors;
-        EXPECT_TRUE(Write_assembler_files({folder, {"in/v1.2/river.TDM"}}, files, written, errors));
-        EXPECT_EQ(written.str() + errors.str(), out);
+        river_.PrefsSet = prefs_set;
+        files_.Content["in/v1.2/river.TDM"] = Project_bytes(river_, "");
+        EXPECT_EQ(Run({folder, {"in/v1.2/river.TDM"}}, true), out);
     }
+    files_.Content["v1.2/river"] = Project_bytes(river_, "");
+    EXPECT_EQ(Run({"", {"v1.2/river"}}, true), "v1.2/river-VTP.asm\nv1.2/river-LWM.asm\n");
 }
 
 // The last project has wrong flags and a closing point, which are put right as in the editor.
-TEST(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
-    const Project river = River_and_polygon();
-    Project no_segments = river, stored = river;
-    no_segments.VTPCount = 0;
+TEST_F(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
+    Project no_segments = river_, no_polygons = river_, stored = river_;
+    no_segments.VTPCount = no_polygons.LWMCount = 0;
     stored.VTPSegStart(1) = stored.VTPSegEnd(2) = false;
     stored.LWMPointCount(1) = 5;
     for (const int axis : {0, 1}) stored.LWMPoint(1, 5, axis) = stored.LWMPoint(1, 1, axis);
-    MemoryFiles files;
-    files.Content = {{"polygons.TDM", Project_bytes(no_segments, "")},
-                     {"river.TDM", Project_bytes(stored, "")},
-                     {"bad.TDM", "x\n70000\n"}};
-    std::ostringstream written, errors;
-    EXPECT_FALSE(Write_assembler_files({"", {"gone.TDM", "bad.TDM", "polygons.TDM", "river.TDM"}},
-                                       files, written, errors));
-    EXPECT_EQ(written.str(), "polygons-LWM.asm\nriver-VTP.asm\nriver-LWM.asm\n");
-    EXPECT_EQ(errors.str(),
+    files_.Content = {{"polygons.TDM", Project_bytes(no_segments, "")},
+                      {"line.TDM", Project_bytes(no_polygons, "")},
+                      {"river.TDM", Project_bytes(stored, "")},
+                      {"bad.TDM", "x\n70000\n"}};
+    EXPECT_EQ(Run({"", {"gone.TDM", "bad.TDM", "polygons.TDM", "line.TDM", "river.TDM"}}, false),
+              "polygons-LWM.asm\nline-VTP.asm\nriver-VTP.asm\nriver-LWM.asm\n"
               "gone.TDM: No such file or directory\n"
               "bad.TDM: line 2: AreaLeftVTP does not fit -32768..32767: 70000\n"
               "polygons.TDM: VTP file generation aborted - no valid coast segments or cell "
               "clearing data found in VTP data!\n");
-    EXPECT_EQ(files.Content["river-VTP.asm"], VTP_file_bytes(river));
-    EXPECT_EQ(files.Content["river-LWM.asm"], LWM_file_bytes(river));
+    EXPECT_EQ(files_.Content["river-VTP.asm"], VTP_file_bytes(river_));
+    EXPECT_EQ(files_.Content["river-LWM.asm"], LWM_file_bytes(river_));
 }
 
 }  // namespace

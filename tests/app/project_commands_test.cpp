@@ -1,4 +1,4 @@
-// Open, Save and Save As over files in memory.
+// Open, Save, Save As and Exit over files in memory.
 #include "app/project_commands.h"
 
 #include <gtest/gtest.h>
@@ -10,63 +10,43 @@
 namespace tidemark {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-Project Changed_project(const std::string& path) {
+TEST(ProjectCommandsTest, AProjectIsSavedUnderAGoodNameOverAnotherOnlyAfterYes) {
+    const std::string unsavable =
+        " cannot be saved: it holds a line end or a NUL, or it is too long.";
+    const Message saved{"/c.tdm saved successfully", "Tidemark - Saved OK",
+                        MessageIcon::Information, MessageButtons::OK};
+    const Message question{"/c.tdm - file exists - overwrite?", "Tidemark - File Exists",
+                           MessageIcon::Exclamation, MessageButtons::YesNo};
+    FakePlatform fake;
+    fake.choosers.Answers = {std::nullopt, "two\nlines.tdm", "/c.tdm"};
+    fake.messages.Answers = {MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::Yes};
     Project p;
-    p.ProjectFile = path;
-    p.DataChanged = true;
-    return p;
-}
-
-TEST(SaveProjectTest, AnUnnamedProjectIsSavedUnderTheChosenName) {
-    FakePlatform fake;
-    fake.choosers.Answers = {std::nullopt, "two\nlines.tdm", "/maps/coast1.tdm"};
-    Project p = Changed_project("");
-    EXPECT_FALSE(Save_project(p, fake.platform)) << "cancelled";
-    EXPECT_FALSE(Choose_project_to_save(p, fake.platform)) << "refused";
-    EXPECT_TRUE(p.ProjectFile.empty() && p.DataChanged && fake.messages.Shown.size() == 1);
-    EXPECT_TRUE(Save_project(p, fake.platform));
-    EXPECT_EQ(p.ProjectFile, "/maps/coast1.tdm");
-    EXPECT_FALSE(p.DataChanged);
-    EXPECT_EQ(fake.files.Content["/maps/coast1.tdm"], Project_bytes(p, "now"));
-    EXPECT_EQ(fake.messages.Shown.back(),
-              (Message{"/maps/coast1.tdm saved successfully", "Tidemark - Saved OK",
-                       MessageIcon::Information, MessageButtons::OK}));
-    EXPECT_EQ(fake.choosers.Shown[0].Title, "Tidemark - Save Project As");
-    EXPECT_EQ(fake.choosers.Shown[0].Filter + fake.choosers.Shown[0].InitialFolder, "*.TDM/start");
-}
-
-TEST(SaveProjectTest, AnExistingFileIsReplacedOnlyAfterYes) {
-    FakePlatform fake;
-    fake.messages.Answers = {MessageAnswer::No, MessageAnswer::Yes};
-    fake.files.Content["c.tdm"] = "old";
-    Project p = Changed_project("c.tdm");
-    EXPECT_FALSE(Save_project(p, fake.platform));
-    EXPECT_TRUE(p.DataChanged && fake.files.Content["c.tdm"] == "old");
-    EXPECT_EQ(fake.messages.Shown[0],
-              (Message{"c.tdm - file exists - overwrite?", "Tidemark - File Exists",
-                       MessageIcon::Exclamation, MessageButtons::YesNo}));
-    EXPECT_TRUE(Save_project(p, fake.platform));
-    EXPECT_TRUE(!p.DataChanged && fake.files.Content["c.tdm"] != "old");
-}
-
-TEST(SaveProjectTest, WhatCannotBeSavedIsToldAndStaysUnsaved) {
-    FakePlatform fake;
+    const auto save = [&](bool is_saved) {
+        p.DataChanged = true;
+        EXPECT_EQ(Save_project(p, fake.platform), is_saved);
+        EXPECT_EQ(p.DataChanged, !is_saved);
+        return std::exchange(fake.messages.Shown, {});
+    };
+    EXPECT_TRUE(save(false).empty()) << "the chooser is cancelled";
+    EXPECT_EQ(save(false).at(0).Text, "ProjectFile" + unsavable);
+    EXPECT_EQ(p.ProjectFile, "");
+    EXPECT_EQ(save(true), std::vector{saved});
+    EXPECT_EQ(fake.files.Content["/c.tdm"], Project_bytes(p, "now"));
+    p.BGLOD8X = 5;
+    EXPECT_EQ(save(false), std::vector{question});
+    EXPECT_NE(fake.files.Content["/c.tdm"], Project_bytes(p, "now"));
+    EXPECT_EQ(save(true), (std::vector{question, saved}));
+    EXPECT_EQ(fake.files.Content["/c.tdm"], Project_bytes(p, "now"));
     fake.files.WriteError = "No space left on device";
-    Project p = Changed_project("c.tdm");
-    EXPECT_FALSE(Save_project(p, fake.platform));
-    fake.files.WriteError = "";
+    EXPECT_EQ(save(false).at(1).Text, "/c.tdm could not be saved: No space left on device");
     p.FSFolder = "a\nb";
-    EXPECT_FALSE(Save_project(p, fake.platform));
-    EXPECT_EQ(
-        fake.messages.Texts(),
-        (Texts{"c.tdm could not be saved: No space left on device",
-               "FSFolder cannot be saved: it holds a line end or a NUL, or it is too long."}));
-    EXPECT_TRUE(p.DataChanged && fake.files.Content.empty());
+    EXPECT_EQ(save(false).at(0).Text, "FSFolder" + unsavable);
+    const FileChooser& chooser = fake.choosers.Shown.at(0);
+    EXPECT_EQ(chooser.Title + chooser.Filter + chooser.InitialFolder,
+              "Tidemark - Save Project As*.TDM/start");
 }
 
-TEST(OpenProjectTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
+TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
     const Project saved = Project_of_all_values();
     FakePlatform fake;
     fake.files.Content = {{"/moved/c.tdm", Project_bytes(saved, "then")},
@@ -74,35 +54,33 @@ TEST(OpenProjectTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
                           {"/maps/huge.tdm", std::string(MaxProjectFileSize + 1, '7')},
                           {"/maps/short.tdm", "x saved on y\n1\n"}};
     Project p;
-    const auto open = [&](const char* path, bool opened) {
+    const auto open = [&](const char* path, bool is_opened) {
         const OpenResult result = Open_project(path, p, fake.platform);
-        EXPECT_EQ(result.Opened, opened) << path;
-        return result.Status;
+        EXPECT_EQ(result.Opened, is_opened) << path;
+        return result.Status + fake.messages.Said();
     };
     EXPECT_EQ(open("/moved/c.tdm", true), "");
     EXPECT_EQ(open("/maps/bad.tdm", false),
               "bad.tdm, line 3: AreaTopVTP does not fit -32768..32767: 70000");
     EXPECT_EQ(open("/maps/huge.tdm", false), "huge.tdm, line 1: File too large");
     EXPECT_TRUE(p == saved) << "the stored path, too";
-    EXPECT_TRUE(fake.messages.Shown.empty());
-    EXPECT_EQ(open("/maps/gone.tdm", false), "");
-    EXPECT_EQ(fake.messages.Texts(), Texts{"/maps/gone.tdm not found!"});
+    EXPECT_EQ(open("/maps/gone.tdm", false), "/maps/gone.tdm not found!");
     EXPECT_EQ(p.ProjectFile, "/maps/gone.tdm");
     EXPECT_EQ(open("/maps/short.tdm", true),
               "short.tdm, line 3: the file ends early; the values that are missing are 0, off or "
               "empty");
 }
 
-TEST(ExitTest, OnlyUnsavedChangesAreAskedAbout) {
+TEST(ProjectCommandsTest, OnlyUnsavedChangesAreAskedAboutAtTheExit) {
     RecordingMessages messages;
     messages.Answers = {MessageAnswer::No, MessageAnswer::Yes};
-    EXPECT_TRUE(May_exit(Project(), messages));
-    EXPECT_FALSE(May_exit(Changed_project(""), messages));
-    EXPECT_TRUE(May_exit(Changed_project(""), messages));
-    const Message question{"Data has not been saved - do you wish to exit?",
-                           "Tidemark - Exit Warning", MessageIcon::Exclamation,
-                           MessageButtons::YesNo};
-    EXPECT_EQ(messages.Shown, std::vector<Message>(2, question));
+    Project p;
+    EXPECT_TRUE(May_exit(p, messages));
+    p.DataChanged = true;
+    EXPECT_FALSE(May_exit(p, messages));
+    EXPECT_EQ(messages.Said(),
+              "Tidemark - Exit Warning: Data has not been saved - do you wish to exit?");
+    EXPECT_TRUE(May_exit(p, messages));
 }
 
 }  // namespace

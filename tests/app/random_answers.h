@@ -2,50 +2,85 @@
 #pragma once
 
 #include <QEvent>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QRadioButton>
 
 #include "fakes/random_numbers.h"
 #include "walk/driver.h"
 
 namespace tidemark {
 
+// How a dialog is answered: one of the rows of texts goes into its fields, some of its buttons are
+// clicked, and Enter or Escape ends it. Files are named below the current folder.
+struct Answers {
+    const char* Dialog;
+    QStringList Fields;
+    std::vector<QStringList> Rows;
+    QStringList Buttons = {};
+};
+
+// Good answers are more likely than bad ones, so that every dialog ends. The preferences that would
+// start a program stay as they are.
+inline const std::vector<Answers> AllAnswers{
+    {"EditPoint",
+     {"VTPX", "VTPY", "LOD13X", "LOD13Y"},
+     {{"5000", "5600", "0", "255"},
+      {"5104.5", "5871", "128", "127.5"},
+      {"4848", "6129", " 12.5 ", "256"},
+      {"x", "1e99", "-1", ""}},
+     {"Option1", "Option2"}},
+    {"Preferences",
+     {"RootText", "FSname"},
+     {{"./one.asm", "."}, {"./two.x", "."}, {"./no such folder/x.asm", ""}, {"no extension", "."}},
+     {"Check2", "Check4", "FScopy"}},
+    {"BGproperties",
+     {"LOD8X", "LOD8Y", "LOD13tlX", "LOD13tlY", "LOD13brX", "LOD13brY"},
+     {{"122", "148", "3", "5", "5", "7"},
+      {"767", "511", "29", "29", "31", "31"},
+      {"0", "0", "0", "12", "2", "14"},
+      {"768", "0", "9", "9", "8", "11"}},
+     {"ShowCalc"}},
+    {"CellCalculator",
+     {"CalcLatText", "CalcLonText"},
+     {{"37:49:12.5", "122:28:42"}, {"8:60:60", "0:7:0"}, {"91:00:00", "0:0:0"}, {"5:7", "::"}}},
+    {"LoadBMPdialog", {"fileNameEdit"}, {{"map.bmp"}, {"map2.bmp"}, {"broken.bmp"}}},
+    {"OpenProject", {"fileNameEdit"}, {{"a.TDM"}, {"b.TDM"}, {"none"}}},
+    {"SaveProject", {"fileNameEdit"}, {{"a.TDM"}, {"b.TDM"}, {"c"}}},
+};
+
 // While it lives, each dialog of the program is answered in the first turn of its own event loop.
-// Good answers are more likely than bad ones, so that every dialog ends.
 class RandomAnswers : public QObject {
   public:
-    // Files and folders that the answers name are below `folder`.
-    RandomAnswers(RandomNumbers& random, QString folder)
-        : random_(random), folder_(std::move(folder)) {
+    explicit RandomAnswers(RandomNumbers& random) : random_(random) {
         qApp->installEventFilter(this);
     }
 
     QStringList Messages;  // all that were shown, "title: text"
 
     bool eventFilter(QObject* object, QEvent* event) override {
-        if (event->type() != QEvent::Show) return false;
-        if (QPointer<QDialog> dialog = qobject_cast<QDialog*>(object))
-            QMetaObject::invokeMethod(
-                this,
-                [this, dialog] {
-                    if (dialog) Answer(*dialog);
-                },
-                Qt::QueuedConnection);
+        QPointer<QDialog> dialog = qobject_cast<QDialog*>(object);
+        const auto answer = [this, dialog] {
+            if (dialog) Answer(*dialog);
+        };
+        if (dialog && event->type() == QEvent::Show)
+            QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
         return false;
     }
 
   private:
     void Answer(QDialog& dialog) {
         if (auto* const box = qobject_cast<QMessageBox*>(&dialog)) return Answer_box(*box);
-        if (dialog.objectName() == "EditPoint") return Answer_edit_point(dialog);
-        if (dialog.objectName() == "Preferences") return Answer_preferences(dialog);
-        if (dialog.objectName() == "BGproperties") return Answer_properties(dialog);
-        if (dialog.objectName() == "CellCalculator") return Answer_calculator(dialog);
-        Answer_chooser(dialog);
+        const auto& [name, fields, rows, buttons] = *std::ranges::find(
+            AllAnswers, dialog.objectName(), [](const Answers& a) { return QString(a.Dialog); });
+        for (const QString& button : buttons)
+            if (random_.One_in(3)) Click(Control<QAbstractButton>(dialog, button));
+        const QStringList& texts = random_.One_of(rows);
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            Control<QLineEdit>(dialog, fields[i]).setText(texts[i]);
+        Press(dialog, random_.One_in(5) ? Qt::Key_Escape : Qt::Key_Enter);
+        if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
     }
 
     void Answer_box(QMessageBox& box) {
@@ -57,79 +92,7 @@ class RandomAnswers : public QObject {
             Click(*random_.One_of(buttons));
     }
 
-    void Answer_edit_point(QDialog& dialog) {
-        for (int attempt = 0; attempt < 3 && dialog.isVisible(); ++attempt) {
-            const bool in_cell = random_.One_in(2);
-            Click(Control<QRadioButton>(dialog, in_cell ? "Option2" : "Option1"));
-            auto& x = Control<QLineEdit>(dialog, in_cell ? "LOD13X" : "VTPX");
-            auto& y = Control<QLineEdit>(dialog, in_cell ? "LOD13Y" : "VTPY");
-            const int somewhere = random_.Number(in_cell ? -20 : -200, in_cell ? 280 : 200);
-            x.setText(random_.One_in(2) ? QString::number(x.text().toInt() + somewhere)
-                                        : Some_number());
-            if (random_.One_in(2)) y.setText(QString::number(random_.Number(0, 255)) + ".5");
-            if (random_.One_in(2))
-                Press(y, Qt::Key_Enter);
-            else
-                Click(Control<QPushButton>(dialog, "OKButton"));
-        }
-        if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
-    }
-
-    // The options that would start a program stay as they are.
-    void Answer_preferences(QDialog& dialog) {
-        const QStringList roots{folder_ + "/one.asm", folder_ + "/two.x", "no extension",
-                                folder_ + "/no such folder/three.asm", ""};
-        for (const char* check : {"Check2", "Check4", "FScopy"})
-            if (random_.One_in(2)) Click(Control<QCheckBox>(dialog, check));
-        Control<QLineEdit>(dialog, "RootText").setText(random_.One_of(roots));
-        Control<QLineEdit>(dialog, "FSname").setText(folder_);
-        Click(Control<QPushButton>(dialog, "OKbutton"));
-        if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
-    }
-
-    void Answer_properties(QDialog& dialog) {
-        const bool at_edge = random_.One_in(3);
-        const int left = at_edge ? 29 : random_.Number(0, 28);
-        const int top = at_edge ? 29 : random_.Number(0, 28);
-        const auto set = [&dialog](const char* name, int value) {
-            Control<QLineEdit>(dialog, name).setText(QString::number(value));
-        };
-        set("LOD8X", random_.One_in(8) ? 768 : random_.Number(0, 767));
-        set("LOD8Y", random_.Number(0, 511));
-        set("LOD13tlX", left);
-        set("LOD13tlY", top);
-        set("LOD13brX", left + (random_.One_in(8) ? -1 : 2));
-        set("LOD13brY", top + 2);
-        if (random_.One_in(10)) Click(Control<QPushButton>(dialog, "ShowCalc"));
-        Press(dialog, random_.One_in(4) ? Qt::Key_Escape : Qt::Key_Enter);
-    }
-
-    void Answer_calculator(QDialog& dialog) {
-        const QStringList latitudes{"37:49:12.5", "8:60:60", "5:7", "91:00:00", "::"};
-        const QStringList longitudes{"122:28:42", "000:07:00.0"};
-        Control<QLineEdit>(dialog, "CalcLatText").setText(random_.One_of(latitudes));
-        Control<QLineEdit>(dialog, "CalcLonText").setText(random_.One_of(longitudes));
-        Click(Control<QPushButton>(dialog, "CalcButton"));
-        if (dialog.isVisible()) Click(Control<QPushButton>(dialog, "CancelButton"));
-    }
-
-    void Answer_chooser(QDialog& dialog) {
-        const bool for_image = dialog.objectName() == "LoadBMPdialog";
-        const QStringList names = for_image ? QStringList{"map.bmp", "map2.bmp", "broken.bmp"}
-                                            : QStringList{"a.TDM", "b.TDM", "c"};
-        if (random_.One_in(4)) return Press(dialog, Qt::Key_Escape);
-        auto& name = Control<QLineEdit>(dialog, "fileNameEdit");
-        name.setText(folder_ + "/" + random_.One_of(names));
-        Press(name, Qt::Key_Enter);
-    }
-
-    QString Some_number() {
-        const QStringList numbers{"", "x", "0", "255", "256", "-1", "70000", "1e99", " 12.5 "};
-        return random_.One_of(numbers);
-    }
-
     RandomNumbers& random_;
-    QString folder_;
 };
 
 }  // namespace tidemark

@@ -1,4 +1,4 @@
-// Choosing a background and what its loading leaves in the project.
+// Choosing a background.
 #include "canvas/background.h"
 
 #include <gtest/gtest.h>
@@ -10,34 +10,32 @@ namespace tidemark {
 namespace {
 
 TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
-    Project project = Project_of_all_values();
-    const Project before = project;
-    FakePlatform fake;
-    const auto choose = [&] {
-        return Choose_background(project, fake.messages, fake.choosers, "/maps");
-    };
-    project.DataChanged = true;
-    EXPECT_FALSE(choose());  // No
-    EXPECT_EQ(fake.messages.Shown.size(), 1U);
-    EXPECT_TRUE(fake.choosers.Shown.empty());
-    EXPECT_EQ(project, before);
-
-    fake.messages.Answers = {MessageAnswer::Yes};
-    EXPECT_FALSE(choose());  // Yes, then the chooser is cancelled
-    Project cleared = before;
+    const Project before = Project_of_all_values();
+    Project project = before, cleared = before;
     cleared.BGLOD8X = cleared.BGLOD8Y = 0;
     cleared.BGLOD13tlX = cleared.BGLOD13tlY = cleared.BGLOD13brX = cleared.BGLOD13brY = 0;
     cleared.VTPCount = cleared.LWMCount = cleared.KillCount = 0;
-    EXPECT_EQ(project, cleared);
+    const std::string question =
+        "Tidemark - Load warning: This will clear all of your current data - do you wish to "
+        "continue?";
+    FakePlatform fake;
+    fake.messages.Answers = {MessageAnswer::No, MessageAnswer::Yes};
+    fake.choosers.Answers = {std::nullopt, "/maps/two\nlines.gif", "/maps/bay.gif"};
+    project.DataChanged = true;
+    for (const auto& [chosen, left, said] :
+         {std::tuple{false, &before, question},  // No
+          {false, &cleared, question},           // Yes, and the chooser is cancelled
+          {false, &cleared,
+           "This name cannot be used: it holds a line end or a NUL, or it is too long."}}) {
+        EXPECT_EQ(Choose_background(project, fake.messages, fake.choosers, "/maps"), chosen);
+        EXPECT_EQ(project, *left);
+        EXPECT_EQ(fake.messages.Said(), said);
+    }
+    EXPECT_TRUE(Choose_background(project, fake.messages, fake.choosers, "/maps"));
+    EXPECT_EQ(project.BackgroundFile + fake.messages.Said(), "/maps/bay.gif");
     EXPECT_FALSE(project.DataChanged);
-
-    fake.choosers.Answers = {"/maps/two\nlines.gif", "/maps/bay.gif"};
-    EXPECT_FALSE(choose());  // no project file could hold that
-    EXPECT_EQ(project, cleared);
-    EXPECT_TRUE(choose());  // nothing is asked
-    EXPECT_EQ(fake.messages.Shown.size(), 3U);
-    EXPECT_EQ(project.BackgroundFile, "/maps/bay.gif");
-    EXPECT_EQ(fake.choosers.Shown[0].InitialFolder, "/maps");
+    EXPECT_EQ(fake.choosers.Shown.at(0).InitialFolder, "/maps");
+    EXPECT_EQ(fake.choosers.Shown.size(), 3U);
 }
 
 }  // namespace

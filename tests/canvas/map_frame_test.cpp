@@ -11,10 +11,7 @@ namespace {
 class MapFrameTest : public testing::Test {
   protected:
     MapFrameTest() {
-        project_.BGLOD13tlX = 3;
-        project_.BGLOD13tlY = 4;
-        project_.AreaLeftVTP = 4848;
-        project_.AreaTopVTP = 5104;
+        Place_area(project_, 3, 4, 9, 9);
         project_.ScaleX = 2;
         project_.ScaleY = 1.3F;
     }
@@ -29,25 +26,18 @@ TEST_F(MapFrameTest, BothMappingsPlaceAPointAlikeAndKeepFractions) {
     EXPECT_THROW(Cell_to_canvas(project_, 200, 4, 0, 0), Overflow);
 }
 
-TEST_F(MapFrameTest, TheMouseFindsPositionAndCell) {
-    struct Case {
-        float X;
-        std::string VTP, Cell;
-    };
-    for (const auto& [x, vtp, cell] : {Case{0, " 4848, 5104", "[ 3, 4 ]  0, 0"},
-                                       {1, " 4849, 5104", "[ 3, 4 ]  1, 0"},
-                                       {2, " 4850, 5104", "[ 3, 4 ]  2, 0"},
-                                       {4, " 4850, 5104", "[ 3, 4 ]  2, 0"},
-                                       {5, " 4851, 5104", "[ 3, 4 ]  3, 0"},
-                                       {509, " 5103, 5104", "[ 3, 4 ]  255, 0"},
-                                       {510, " 5104, 5104", "[ 4, 4 ]  0, 0"},
-                                       {-3, " 4847, 5104", "[ 2, 4 ]  255, 0"}}) {
-        const auto texts = Move_cursor(project_, x, 0);
-        ASSERT_TRUE(texts);
-        EXPECT_EQ(texts->VTP, vtp) << x;
-        EXPECT_EQ(texts->Cell, cell) << x;
+TEST_F(MapFrameTest, TheMouseFindsPositionAndCellWhereThereIsAScale) {
+    for (const auto& [x, texts] : {std::pair{0.0F, " 4848, 5104[ 3, 4 ]  0, 0"},
+                                   {1.0F, " 4849, 5104[ 3, 4 ]  1, 0"},
+                                   {2.0F, " 4850, 5104[ 3, 4 ]  2, 0"},
+                                   {4.0F, " 4850, 5104[ 3, 4 ]  2, 0"},
+                                   {509.0F, " 5103, 5104[ 3, 4 ]  255, 0"},
+                                   {510.0F, " 5104, 5104[ 4, 4 ]  0, 0"},
+                                   {-3.0F, " 4847, 5104[ 2, 4 ]  255, 0"}}) {
+        const auto shown = Move_cursor(project_, x, 0);
+        EXPECT_EQ(shown.value().VTP + shown.value().Cell, texts) << x;
     }
-    for (const float scale : {0.0F, -1.0F, 1e-6F}) {  // no map to speak of
+    for (const float scale : {0.0F, -1.0F, 1e-6F}) {
         project_.ScaleX = scale;
         EXPECT_FALSE(Move_cursor(project_, 500, 21)) << scale;
         EXPECT_EQ(project_.CursorOffsetX, -1) << scale;
@@ -58,12 +48,12 @@ TEST_F(MapFrameTest, TheMouseFindsPositionAndCell) {
 TEST_F(MapFrameTest, TheNearestPointIsTheFirstOfThoseEquallyNear) {
     EXPECT_FALSE(Nearest_point(project_));
     Add_segment(project_, 0, 80, {{12272, 12272}, {5000, 5003}, {5003, 5000}, {5000, 4997}});
-    project_.CursorVTPX = project_.CursorVTPY = 5000;
-    EXPECT_EQ(Nearest_point(project_), 2);
-    project_.CursorVTPX = 12000;
-    EXPECT_EQ(Nearest_point(project_), 3);
-    project_.CursorVTPY = 12000;
-    EXPECT_EQ(Nearest_point(project_), 1);
+    for (const auto& [x, y, nearest] :
+         {std::tuple{5000, 5000, 2}, {12000, 5000, 3}, {12000, 12000, 1}}) {
+        project_.CursorVTPX = x;
+        project_.CursorVTPY = y;
+        EXPECT_EQ(Nearest_point(project_), nearest);
+    }
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QBuffer>
-#include <QFile>
 #include <QImage>
 
 namespace tidemark {
@@ -34,12 +33,6 @@ inline QByteArray JPEG_bytes(int width, int height) {
 inline QByteArray GIF_bytes() {
     return QByteArray("GIF89a\2\0\2\0\x80\0\0\xFF\0\0\0\0\xFF", 19) +
            QByteArray("!\xFE\4note\0", 8) + QByteArray(",\0\0\0\0\2\0\2\0\0\2\2\x44\x5C\0;", 16);
-}
-
-inline void Write_file(const std::string& path, const QByteArray& bytes) {
-    QFile file(QString::fromStdString(path));
-    file.open(QIODevice::WriteOnly);
-    file.write(bytes);
 }
 
 }  // namespace tidemark

@@ -8,29 +8,23 @@ namespace tidemark {
 namespace {
 
 TEST(ViewLayoutTest, BarsShowAndMoveByTheSizeOfTheImage) {
-    struct Case {
-        ViewSize Image;
-        int MaximumX, MaximumY;
-        bool Wide, High;
-        int HorizontalTop, VerticalLeft;
-    };
-    for (const Case& c : {Case{{1000, 900}, 200, 300, true, true, 600, 800},
-                          {{300, 200}, -500, -400, false, false, 200, 300},
-                          {{1000, 200}, 200, -400, true, false, 200, 800},
-                          {{300, 900}, -500, 300, false, true, 600, 300},
-                          {{800, 600}, 0, 0, false, false, 600, 800},
-                          {{33567, 33367}, 32767, 32767, true, true, 600, 800}}) {
-        const auto layout = Lay_out_view({816, 616}, c.Image, 16);
+    for (const auto& [image, across, top, down, left] :
+         {std::tuple{ViewSize{1000, 900}, 200, 600, 300, 800},
+          {{300, 200}, -500, 200, -400, 300},
+          {{1000, 200}, 200, 200, -400, 800},
+          {{300, 900}, -500, 600, 300, 300},
+          {{800, 600}, 0, 600, 0, 800},
+          {{33567, 33367}, 32767, 600, 32767, 800}}) {
+        const auto layout = Lay_out_view({816, 616}, image, 16);
         ASSERT_TRUE(layout);
-        EXPECT_EQ(layout->Viewport, (ViewRect{0, 0, 800, 600}));
-        const auto& horizontal = layout->Horizontal;
-        const auto& vertical = layout->Vertical;
-        EXPECT_EQ(horizontal.Maximum, c.MaximumX);
-        EXPECT_EQ(vertical.Maximum, c.MaximumY);
-        EXPECT_EQ(horizontal.Visible, c.Wide) << c.Image.Width;
-        EXPECT_EQ(vertical.Visible, c.High) << c.Image.Height;
-        EXPECT_EQ(horizontal.Place, (ViewRect{0, c.HorizontalTop, 800, 16}));
-        EXPECT_EQ(vertical.Place, (ViewRect{c.VerticalLeft, 0, 16, 600}));
+        const auto& [viewport, horizontal, vertical] = *layout;
+        EXPECT_EQ(viewport, (ViewRect{0, 0, 800, 600}));
+        EXPECT_EQ(horizontal.Maximum, across);
+        EXPECT_EQ(horizontal.Visible, across > 0);
+        EXPECT_EQ(horizontal.Place, (ViewRect{0, top, 800, 16}));
+        EXPECT_EQ(vertical.Maximum, down);
+        EXPECT_EQ(vertical.Visible, down > 0);
+        EXPECT_EQ(vertical.Place, (ViewRect{left, 0, 16, 600}));
     }
     EXPECT_FALSE(Lay_out_view({816, 616}, {33568, 10}, 16));
     EXPECT_FALSE(Lay_out_view({816, 616}, {10, 33368}, 16));

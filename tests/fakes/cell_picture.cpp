@@ -33,11 +33,7 @@ void Add_line(Project& project, int mode, std::span<const CellPoint> points) {
 
 std::unique_ptr<Project> Cell_project(std::string_view lines, CellPoint click) {
     auto project = std::make_unique<Project>();
-    project->BGLOD13tlX = PictureColumn - 2;
-    project->BGLOD13tlY = PictureRow - 1;
-    project->BGLOD13brX = project->BGLOD13brY = LastLOD13;
-    project->AreaLeftVTP = Cell_edge_VTP(project->BGLOD13tlX);
-    project->AreaTopVTP = Cell_edge_VTP(project->BGLOD13tlY);
+    Place_area(*project, PictureColumn - 2, PictureRow - 1, LastLOD13, LastLOD13);
     project->CursorCellX = PictureColumn;
     project->CursorCellY = PictureRow;
     project->CursorInCellX = click.X;

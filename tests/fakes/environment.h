@@ -1,4 +1,4 @@
-// Programs and variables of the test's own, for tests that really start something.
+// Files, programs and variables of the test's own, for tests that really read or start something.
 #pragma once
 
 #include <chrono>
@@ -39,16 +39,9 @@ inline std::string File_content(const std::string& path) {
     return content.str();
 }
 
-// A file that can be executed.
-inline void Write_program(const std::string& path, const std::string& content) {
-    Write_file(path, content);
-    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
-}
-
-// A program that writes the folder it runs in and its arguments into `record`, each on a line.
-inline void Write_recorder(const std::string& path, const std::string& record) {
-    Write_program(path, "#!/bin/sh\n{ pwd; for a in \"$@\"; do printf '%s\\n' \"$a\"; done; } > '" +
-                            record + ".part'\nmv '" + record + ".part' '" + record + "'\n");
+// A file of the project's own, such as one that another is to be equal to.
+inline std::string Source_file(const std::string& name) {
+    return File_content(TIDEMARK_SOURCE_DIR "/" + name);
 }
 
 // Whether it comes true within ten seconds.

@@ -2,13 +2,11 @@
 // it answers.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <set>
 #include <strings.h>
 
 #include "fakes/recording_messages.h"
-#include "platform/patience.h"
 #include "platform/platform.h"
 #include "platform/programs.h"
 
@@ -22,10 +20,7 @@ class RecordingChoosers : public Choosers {
 
     std::optional<std::string> Choose(const FileChooser& chooser) override {
         Shown.push_back(chooser);
-        if (Answers.empty()) return std::nullopt;
-        const auto answer = Answers.front();
-        Answers.pop_front();
-        return answer;
+        return Next_of(Answers, {});
     }
 };
 
@@ -75,10 +70,10 @@ class MemoryFiles : public Files {
 
 class RecordingPrograms : public Programs {
   public:
-    std::vector<std::string> Shown;
+    Texts Shown;
     std::vector<Command> Started;
     bool CanShow = true, CanStart = true;
-    std::string Advice;  // not empty: it cannot start either
+    std::string Advice;  // of a start that fails
     bool Ended = false;  // whether what was started has ended
 
     bool Show(const std::string& document) override {
@@ -88,7 +83,7 @@ class RecordingPrograms : public Programs {
 
     ProgramStart Start(const Command& command) override {
         Started.push_back(command);
-        if (!CanStart || !Advice.empty()) return {nullptr, Advice};
+        if (!CanStart) return {nullptr, Advice};
         return {std::make_unique<Running>(Ended), ""};
     }
 
@@ -98,18 +93,6 @@ class RecordingPrograms : public Programs {
         bool Has_ended() override { return ended_; }
         const bool& ended_;
     };
-};
-
-// Waiting that takes no time.
-class FakePatience : public Patience {
-  public:
-    int Waited = 0;                      // milliseconds
-    std::function<void(int)> Meanwhile;  // runs at every wait with the milliseconds so far
-
-    void Wait(const std::string&, int milliseconds) override {
-        Waited += milliseconds;
-        if (Meanwhile) Meanwhile(Waited);
-    }
 };
 
 struct FakePlatform {

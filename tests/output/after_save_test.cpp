@@ -1,45 +1,100 @@
 // The sequence after saving, step by step, with files and programs that are only written down.
 #include "output/after_save.h"
 
-#include <gtest/gtest.h>
-
+#include "fakes/cases.h"
 #include "fakes/fake_platform.h"
 #include "fakes/sample_projects.h"
+#include "platform/patience.h"
 
 namespace tidemark {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-const std::string notepad_problem = "There was a problem opening the external program Notepad!";
-const std::string compiler_problem =
-    "There was a problem opening the external program BGLC.EXE.\n"
-    "Please ensure that Flight Simulator 2002 is not currently running, and try saving the file "
-    "again.";
-const std::string compiler_missing =
-    "/s/BGLC.EXE was not found!\n"
-    "You need to have BGLC.EXE and the associated include files in the\n"
-    "same folder as your Tidemark assembler files.";
-const std::string copied = "Skye-VTP.BGL successfully copied to /fs/";
-const std::string not_found = "Skye-VTP.BGL not found!";
-const std::string advice = "Please install wine";
-const std::string bgl = "/s/Skye-VTP.BGL";
+const std::string bgl = "/s/Skye-VTP.BGL", copied = "/fs/Skye-VTP.BGL";
 
 // Everything is to be done, and the compiled file of an earlier run is there.
-struct Sequence : FakePlatform {
+struct Sequence : FakePlatform, Patience {
     Sequence() {
         files.Content = {{"/s/BGLC.EXE", ""}, {task.File, ""}, {"/fs/", ""}, {bgl, "old"}};
     }
 
-    Texts Run() {
-        messages.Shown.clear();
-        After_save(task, messages, files, programs, patience);
-        return messages.Texts();
+    // Takes no time, but meanwhile the compiler goes on.
+    void Wait(const std::string&, int milliseconds) override {
+        waited += milliseconds;
+        for (; !writes.empty() && waited >= 1000 * writes.front(); writes.pop_front())
+            files.Content[bgl] += 'x';
+        programs.Ended = waited >= 1000 * ends;
     }
 
+    // Something that happens, with its times in seconds.
+    void Take(const std::string& event) {
+        std::istringstream words(event);
+        std::string word;
+        double time = 0;
+        if (event == "no opener") programs.CanShow = false;
+        if (event == "undeletable") files.Undeletable = {bgl};
+        if (event == "no compiler") files.Content.erase("/s/BGLC.EXE");
+        if (event == "unstartable") programs.CanStart = false;
+        if (event == "no wine") {
+            programs.CanStart = false;
+            programs.Advice = "Please install wine";
+        }
+        if (event == "no folder") task.FSFolder = "";
+        if (event == "unknown folder") task.FSFolder = "/no";
+        if (event == "backslash") task.FSFolder = "/fs\\";
+        if (event == "full disk") files.WriteError = "No space left on device";
+        for (words >> word; words >> time;)
+            if (word == "writes") writes.push_back(time);
+        if (word == "ends") ends = time;
+    }
+
+    // What came of it all.
+    std::string Outcome() {
+        const std::string said = messages.Said();
+        std::ostringstream outcome;
+        outcome << said << (said.empty() ? "[" : " [") << programs.Shown.size() << " shown, "
+                << programs.Started.size() << " started, " << files.Content[bgl].size()
+                << " compiled, " << files.Content[copied].size() << " copied, "
+                << (waited + 999) / 1000 << " s]";
+        return outcome.str();
+    }
+
+    void Run() { After_save(task, messages, files, programs, *this); }
+
     AfterSaveTask task{"/s/Skye-VTP.asm", true, true, true, "/fs/"};
-    FakePatience patience;
+    std::deque<double> writes;  // when the compiled file grows by a byte
+    double ends = 1e9;          // when the compiler does
+    int waited = 0;             // milliseconds
 };
+
+TEST(AfterSaveTest, WhatIsAskedForIsDoneUntilAStepFails) {
+    Expect_cases("output/data/after-save.txt", [](const Given& given) {
+        Sequence sequence;
+        sequence.task.Notepad = given[0].find("show") != std::string::npos;
+        sequence.task.Compile = given[0].find("compile") != std::string::npos;
+        sequence.task.CopyToFS = given[0].find("copy") != std::string::npos;
+        for (const std::string& event : given) sequence.Take(event);
+        sequence.Run();
+        return sequence.Outcome();
+    });
+}
+
+TEST(AfterSaveTest, TheRightFilesAreShownStartedAndReplaced) {
+    Sequence sequence;
+    sequence.files.Content["/fs/skye-vtp.bgl"] = "";
+    sequence.Take("writes 1");
+    sequence.Run();
+    EXPECT_EQ(sequence.programs.Shown, Texts{"/s/Skye-VTP.asm"});
+    EXPECT_EQ(sequence.programs.Started,
+              std::vector({Command{"/s/BGLC.EXE", {"/s/Skye-VTP.asm"}, "/s/"}}));
+    EXPECT_EQ(sequence.files.Content["/fs/skye-vtp.bgl"], "x") << "whatever its case";
+    EXPECT_FALSE(sequence.files.Exists(copied));
+
+    Sequence named_like_it;
+    named_like_it.task = {"/s/Coast.BGL", false, true, false, ""};
+    named_like_it.files.Content["/s/Coast.BGL"] = "text";
+    named_like_it.Run();
+    EXPECT_TRUE(named_like_it.files.Exists("/s/Coast.BGL")) << "never deleted";
+}
 
 TEST(AfterSaveTest, TheTasksAreThoseOfTheProject) {
     Project project = Project_of_all_values();
@@ -50,95 +105,6 @@ TEST(AfterSaveTest, TheTasksAreThoseOfTheProject) {
     EXPECT_EQ(vtp.File + vtp.FSFolder, project.VTPFileName + project.FSFolder);
     EXPECT_TRUE(lwm.Notepad && lwm.Compile && lwm.CopyToFS);
     EXPECT_TRUE(!vtp.Notepad && !vtp.Compile && vtp.CopyToFS);
-}
-
-TEST(AfterSaveTest, ShowsThenCompilesThenCopiesWhatIsAskedFor) {
-    Sequence all;
-    all.patience.Meanwhile = [&](int waited) {
-        EXPECT_FALSE(waited == 100 && all.files.Exists(bgl)) << "the old one is gone";
-        if (waited == 1000) all.files.Content[bgl] = "half";
-        if (waited == 5000) all.files.Content[bgl] = "the whole";
-        all.programs.Ended = waited >= 5000;
-    };
-    EXPECT_EQ(all.Run(), Texts{copied});
-    EXPECT_EQ(all.messages.Shown[0].Title, "Tidemark - File OK");
-    EXPECT_EQ(all.programs.Shown, Texts{"/s/Skye-VTP.asm"});
-    EXPECT_EQ(all.programs.Started,
-              std::vector({Command{"/s/BGLC.EXE", {"/s/Skye-VTP.asm"}, "/s/"}}));
-    EXPECT_EQ(all.files.Content["/fs/Skye-VTP.BGL"], "the whole");
-
-    Sequence copy;  // over the file of that name, whatever its case
-    copy.files.Content["/fs/skye-vtp.bgl"] = "";
-    copy.task = {copy.task.File, false, false, true, "/fs\\"};
-    EXPECT_EQ(copy.Run(), Texts{"Skye-VTP.BGL successfully copied to /fs\\"});
-    EXPECT_EQ(copy.files.Content["/fs/skye-vtp.bgl"], "old");
-    EXPECT_EQ(copy.files.Content.size(), 5U);
-    EXPECT_TRUE(copy.patience.Waited == 0 && copy.programs.Started.empty());
-
-    Sequence named_like_it;
-    named_like_it.task = {"/s/Coast.BGL", false, true, false, ""};
-    named_like_it.files.Content["/s/Coast.BGL"] = "text";
-    EXPECT_EQ(named_like_it.Run(), Texts());
-    EXPECT_TRUE(named_like_it.files.Exists("/s/Coast.BGL")) << "never deleted";
-
-    Sequence nothing;
-    nothing.task = {nothing.task.File, false, false, false, ""};
-    EXPECT_EQ(nothing.Run(), Texts());
-    nothing.files.Content.erase("/s/BGLC.EXE");
-    EXPECT_EQ(nothing.Run(), Texts{compiler_missing});
-}
-
-TEST(AfterSaveTest, EachFailureEndsTheSequence) {
-    using Break = void (*)(Sequence&);
-    for (const auto& [break_it, warning, started, old_file_stays] :
-         {std::tuple{Break{[](Sequence& s) { s.programs.CanShow = false; }}, notepad_problem, 0U,
-                     true},
-          {[](Sequence& s) { s.files.Undeletable = {bgl}; }, compiler_problem, 0U, true},
-          {[](Sequence& s) { s.files.Content.erase("/s/BGLC.EXE"); }, compiler_missing, 0U, false},
-          {[](Sequence& s) { s.programs.CanStart = false; }, compiler_problem, 1U, false},
-          {[](Sequence& s) { s.programs.Advice = advice; }, advice, 1U, false},
-          {[](Sequence&) {}, not_found, 1U, false}}) {
-        Sequence sequence;
-        break_it(sequence);
-        EXPECT_EQ(sequence.Run(), Texts{warning});
-        EXPECT_EQ(sequence.messages.Shown[0].Title, "Tidemark - Warning") << warning;
-        EXPECT_EQ(sequence.programs.Started.size(), started) << warning;
-        EXPECT_EQ(sequence.files.Exists(bgl), old_file_stays) << warning;
-        EXPECT_TRUE(sequence.files.Exists("/s/Skye-VTP.asm")) << warning;
-    }
-    for (const std::string folder : {"", "/no", "/fs/"}) {  // the last one is full
-        Sequence copying;
-        copying.task = {copying.task.File, false, false, true, folder};
-        if (folder == "/fs/") copying.files.WriteError = "No space left on device";
-        EXPECT_EQ(copying.Run(), Texts{compiler_problem}) << folder;
-    }
-}
-
-// Times in seconds; a negative one is never.
-TEST(AfterSaveTest, TheWaitEndsWhenTheFileIsCompleteOrNotToBeExpected) {
-    struct Case {
-        double Ends;
-        std::vector<double> Writes;  // each makes the file longer
-        std::size_t Copied;          // its length when it is copied, 0 when it is given up
-        double Longest;              // for the whole wait
-    };
-    for (const Case& c : {Case{10, {9.9}, 1, 11},        // all at the end
-                          {31, {1, 10, 20, 30}, 4, 32},  // in pieces
-                          {-1, {2, 3}, 2, 20},           // writes, then stays
-                          {0.1, {1, 1.2, 1.4}, 3, 2},    // starts another program and ends
-                          {5, {}, 0, 9},                 // ends without writing
-                          {-1, {}, 0, 61}}) {            // never writes and never ends
-        Sequence sequence;
-        std::size_t written = 0;
-        sequence.patience.Meanwhile = [&](int waited) {
-            while (written < c.Writes.size() && waited >= 1000 * c.Writes[written])
-                sequence.files.Content[bgl] = std::string(++written, 'x');
-            sequence.programs.Ended = c.Ends >= 0 && waited >= 1000 * c.Ends;
-        };
-        EXPECT_EQ(sequence.Run(), Texts{c.Copied > 0 ? copied : not_found});
-        EXPECT_EQ(sequence.files.Content["/fs/Skye-VTP.BGL"].size(), c.Copied) << c.Longest;
-        EXPECT_LE(sequence.patience.Waited, 1000 * c.Longest);
-    }
 }
 
 }  // namespace

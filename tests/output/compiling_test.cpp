@@ -3,15 +3,11 @@
 
 #include "fakes/environment.h"
 #include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
 #include "fakes/temporary_folder.h"
 #include "output/after_save.h"
-#include "output/assembler_files.h"
 
 namespace tidemark {
 namespace {
-
-namespace fs = std::filesystem;
 
 class RealPatience : public Patience {
     void Wait(const std::string&, int milliseconds) override {
@@ -22,29 +18,22 @@ class RealPatience : public Patience {
 TEST(CompilingTest, ASlowCompilersFileIsCopiedWholeOverTheOldOneWhateverItsNamesAndTheirCase) {
     const Variable delay("STANDIN_DELAY", "1"), pieces("STANDIN_PIECES", "6");
     const Variable lower("STANDIN_LOWER_CASE", "1");
-    const TemporaryFolder scenery, simulator;
-    fs::copy_file(STANDIN_COMPILER, scenery / "bglc.exe");
-    Write_file(scenery / "-vtp A;$(B)'.bgl", "of an earlier run");
-    Write_file(simulator / "-VTP a;$(b)'.BGL", "of an earlier run");
-    Project project;
-    Add_segment(project, 1, 80, {{5460, 6000}, {5500, 6100}});
-    project.VTPFileName = "-VTP a;$(b)'.asm";
-    project.VTPCompile = project.CopyToFS = true;
-    project.FSFolder = simulator.Path();
-
+    const TemporaryFolder simulator;
+    const WorkingFolder scenery;
+    const std::string text = Source_file("tests/output/data/one-segment-VTP.asm");
+    const std::string file = "-VTP a;$(b)'.asm", compiled = simulator / "-VTP a;$(b)'.BGL";
+    std::filesystem::copy_file(STANDIN_COMPILER, "bglc.exe");
+    Write_file(file, text);
+    Write_file("-vtp A;$(B)'.bgl", "of an earlier run");
+    Write_file(compiled, "of an earlier run");
     RecordingMessages messages;
     DiskFiles files;
     SystemPrograms programs;
     RealPatience patience;
-    const fs::path before = fs::current_path();
-    fs::current_path(scenery.Path());
-    EXPECT_TRUE(Save_VTP_file(project, messages, files));
-    After_save(VTP_after_save(project), messages, files, programs, patience);
-    fs::current_path(before);
-    EXPECT_EQ(messages.Texts().at(0),
-              "-VTP a;$(b)'.BGL successfully copied to " + simulator.Path());
-    EXPECT_EQ(File_content(simulator / "-VTP a;$(b)'.BGL"),
-              "BGL begins\n" + File_content(scenery / project.VTPFileName) + "BGL ends");
+    After_save({file, false, true, true, simulator.Path()}, messages, files, programs, patience);
+    EXPECT_EQ(messages.Said(),
+              "Tidemark - File OK: -VTP a;$(b)'.BGL successfully copied to " + simulator.Path());
+    EXPECT_EQ(File_content(compiled), "BGL begins\n" + text + "BGL ends");
 }
 
 }  // namespace

@@ -1,26 +1,25 @@
 // The output names and the Output Preferences dialog's rules.
 #include "output/output_preferences.h"
 
-#include <gtest/gtest.h>
+#include <map>
 
+#include "fakes/cases.h"
 #include "fakes/fake_platform.h"
+#include "output/help.h"
 #include "output/output_names.h"
 
 namespace tidemark {
 namespace {
 
 TEST(OutputNamesTest, AreMadeOfTheRootAndOfTheAssemblerFile) {
-    for (const auto& [root, lwm] :
-         {std::pair{R"(C:\Scenery\Skye.asm)", R"(C:\Scenery\Skye-LWM.asm)"},
-          {R"(C:\my.files\skye)", R"(C:\my-LWM.files\skye)"},
-          {"/a.b/c.d.asm", "/a.b/c.d-LWM.asm"},
-          {"skye.", "skye-LWM."},
-          {R"(C:\Scenery\Skye)", "not available"}})
-        EXPECT_EQ(Output_label(LWMOutput, root), std::string("LWM output filename is ") + lwm);
-    EXPECT_EQ(Output_label(VTPOutput, ".asm"), "VTP output filename is -VTP.asm");
-    EXPECT_EQ(BGL_name("/me/Skye-VTP.asm") + Compiler_path(R"(C:\me\Skye.asm)"),
-              R"(/me/Skye-VTP.BGLC:\me\BGLC.EXE)");
-    EXPECT_EQ(BGL_name("x.as") + Compiler_path("s"), "xBGLBGLC.EXE");
+    const std::map<std::string, std::string (*)(const std::string&)> names{
+        {"LWM label", [](auto& root) { return Output_label(LWMOutput, root); }},
+        {"VTP label", [](auto& root) { return Output_label(VTPOutput, root); }},
+        {"compiled file", [](auto& file) { return BGL_name(file); }},
+        {"compiler", [](auto& file) { return Compiler_path(file); }},
+        {"address", [](auto& path) { return File_address(path); }}};
+    Expect_cases("output/data/names.txt",
+                 [&](const Given& given) { return names.at(given[0])(given[1]); });
 }
 
 TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
@@ -41,19 +40,18 @@ TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
 }
 
 TEST(OutputPreferencesTest, OKRefusesWhatIsNoNameOrCannotBeSaved) {
-    const std::string invalid = "Selected filename root is not valid";
     const std::string unusable =
         "This name cannot be used: it holds a line end or a NUL, or it is too long.";
-    for (const auto& [root, folder, warning] : {std::array<std::string, 3>{"/out/Skye.asm", "", ""},
-                                                {"/out/Skye", "/fs", invalid},
-                                                {"/out/Sk\nye.asm", "/fs", unusable},
-                                                {"/out/Skye.asm", "/fs\r", unusable},
-                                                {std::string("a\0.asm", 6), "/fs", unusable},
-                                                {std::string(32764, 'a') + ".", "", unusable}}) {
+    for (const auto& [root, folder, said] :
+         {std::tuple<std::string, std::string, std::string>{"/out/Skye.asm", "", ""},
+          {"/out/Skye", "/fs", "Selected filename root is not valid"},
+          {"/out/Sk\nye.asm", "/fs", unusable},
+          {"/out/Skye.asm", "/fs\r", unusable},
+          {std::string("a\0.asm", 6), "/fs", unusable},
+          {std::string(32764, 'a') + ".", "", unusable}}) {
         RecordingMessages messages;
-        EXPECT_EQ(Check_preferences({.RootText = root, .FSname = folder}, messages),
-                  warning.empty());
-        EXPECT_EQ(messages.Shown.empty() ? "" : messages.Shown.back().Text, warning);
+        EXPECT_EQ(Check_preferences({.RootText = root, .FSname = folder}, messages), said.empty());
+        EXPECT_EQ(messages.Said(), said);
     }
 }
 

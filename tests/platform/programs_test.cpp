@@ -14,6 +14,18 @@ namespace {
 
 class ProgramsTest : public testing::Test {
   protected:
+    std::string Program(const std::string& name, const std::string& content) {
+        Write_file(folder_ / name, content);
+        std::filesystem::permissions(folder_ / name, std::filesystem::perms::owner_all);
+        return folder_ / name;
+    }
+
+    // A program that writes the folder it runs in and its arguments into the record, one a line.
+    std::string Recorder(const std::string& name) {
+        return Program(name, "#!/bin/sh\n{ pwd; printf '%s\\n' \"$@\"; } > '" + record_ +
+                                 ".part'\n/bin/mv '" + record_ + ".part' '" + record_ + "'\n");
+    }
+
     std::string Recorded() {
         EXPECT_TRUE(Comes_true([&] { return std::filesystem::exists(record_); }));
         const std::string content = File_content(record_);
@@ -27,11 +39,10 @@ class ProgramsTest : public testing::Test {
 };
 
 TEST_F(ProgramsTest, ArgumentsArriveAsTheyAre) {
-    const std::string program = folder_ / "a program; $(touch x)";
-    Write_recorder(program, record_);
     const std::vector<std::string> arguments{"two words", "\"it's\"", "$(touch x)", "`touch x`",
                                              "-rf",       "*",        "",           "a\\b;|&%"};
-    ASSERT_TRUE(programs_.Start({program, arguments, folder_.Path()}).Program);
+    const Command command{Recorder("a program; $(touch x)"), arguments, folder_.Path()};
+    ASSERT_TRUE(programs_.Start(command).Program);
     std::string expected = folder_.Path() + "\n";
     for (const std::string& argument : arguments) expected += argument + "\n";
     EXPECT_EQ(Recorded(), expected);
@@ -40,10 +51,12 @@ TEST_F(ProgramsTest, ArgumentsArriveAsTheyAre) {
 
 TEST_F(ProgramsTest, AStartedProgramIsNobodysChildHasNoDescriptorOfOursAndItsEndIsSeen) {
     ASSERT_EQ(::dup2(STDOUT_FILENO, 9), 9);  // without O_CLOEXEC
-    Write_program(folder_ / "waits",
-                  "#!/bin/sh\nwhile [ ! -e go ]; do sleep 0.02; done\n[ -e /proc/$$/fd/9 ] && "
-                  "echo leaks > part || echo none > part\nmv part record\n");
-    const ProgramStart start = programs_.Start({folder_ / "waits", {}, folder_.Path()});
+    const ProgramStart start = programs_.Start(
+        {Program("waits",
+                 "#!/bin/sh\nwhile [ ! -e go ]; do sleep 0.02; done\n[ -e /proc/$$/fd/9 ] && "
+                 "echo leaks > part || echo none > part\nmv part record\n"),
+         {},
+         folder_.Path()});
     ::close(9);
     ASSERT_TRUE(start.Program);
     EXPECT_FALSE(start.Program->Has_ended());
@@ -56,36 +69,32 @@ TEST_F(ProgramsTest, AStartedProgramIsNobodysChildHasNoDescriptorOfOursAndItsEnd
 TEST_F(ProgramsTest, WhatCannotBeStartedIsReported) {
     const Variable path("PATH", folder_.Path());
     Write_file(folder_ / "not executable", "#!/bin/sh\n");
-    Write_program(folder_ / "no interpreter", "#!/no/such/interpreter\n");
-    Write_program(folder_ / "no program", "touch x\n");  // a shell would run it
     for (const std::string& program :
-         {folder_ / "none", folder_ / "not executable", folder_ / "no interpreter",
-          folder_ / "no program", folder_.Path(), std::string("none"), std::string()}) {
+         {folder_ / "none", folder_ / "not executable", folder_.Path(), std::string("none"),
+          Program("no interpreter", "#!/no/such/interpreter\n"),
+          Program("no program", "touch x\n"),  // a shell would run it
+          std::string()}) {
         const ProgramStart start = programs_.Start({program, {}, ""});
         EXPECT_TRUE(!start.Program && start.Advice.empty()) << program;
     }
-    Write_recorder(folder_ / "records", record_);
-    EXPECT_FALSE(programs_.Start({folder_ / "records", {}, folder_ / "no such folder"}).Program);
+    EXPECT_FALSE(programs_.Start({Recorder("records"), {}, folder_ / "no such folder"}).Program);
 }
 
 TEST_F(ProgramsTest, AWindowsProgramGoesThroughWineAndADocumentThroughTheDesktopsOpener) {
-    const Variable path("PATH", folder_.Path() + ":/usr/bin:/bin");
-    const std::string compiler = folder_ / "BGLC.EXE";
-    Write_program(compiler, "MZ\x90");
+    const Variable path("PATH", folder_.Path());  // whatever this system has installed
+    const std::string compiler = Program("BGLC.EXE", "MZ\x90");
     const Command command{compiler, {"/a b/Skye.asm", "-x"}, folder_.Path()};
     EXPECT_EQ(programs_.Start(command).Advice,
               compiler +
                   " is a Windows program, which this system runs through wine.\n"
                   "Please install wine and try again.");
-    Write_recorder(folder_ / "wine", record_);
+    Recorder("wine");
     EXPECT_TRUE(programs_.Start(command).Program);
     EXPECT_EQ(Recorded(), folder_.Path() + "\n" + compiler + "\nZ:\\a b\\Skye.asm\n-x\n");
-
-    Write_recorder(folder_ / "xdg-open", record_);
+    EXPECT_FALSE(programs_.Show("/x y.asm"));
+    Recorder("xdg-open");
     EXPECT_TRUE(programs_.Show("/x y.asm"));
     EXPECT_TRUE(Recorded().ends_with("\n/x y.asm\n"));
-    const Variable without_opener("PATH", "/none");
-    EXPECT_FALSE(programs_.Show("/x y.asm"));
 }
 
 }  // namespace
