@@ -232,6 +232,7 @@ void RandomUser::Resize(QWidget& widget) {
     widget.resize(widget.width() + random_.Number(-60, 60),
                   std::clamp(widget.height() + random_.Number(-60, 60), 500, 900));
     QApplication::processEvents();
+    EXPECT_TRUE(&widget != &panel_ || Of_panel<QComboBox>("DrawModeCombo").currentIndex() == 0);
 }
 
 void RandomUser::Save() {

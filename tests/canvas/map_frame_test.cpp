@@ -1,8 +1,7 @@
 // Between the project's positions and the canvas's pixels.
 #include "canvas/map_frame.h"
 
-#include <gtest/gtest.h>
-
+#include "fakes/cases.h"
 #include "fakes/sample_projects.h"
 
 namespace tidemark {
@@ -27,16 +26,10 @@ TEST_F(MapFrameTest, BothMappingsPlaceAPointAlikeAndKeepFractions) {
 }
 
 TEST_F(MapFrameTest, TheMouseFindsPositionAndCellWhereThereIsAScale) {
-    for (const auto& [x, texts] : {std::pair{0.0F, " 4848, 5104[ 3, 4 ]  0, 0"},
-                                   {1.0F, " 4849, 5104[ 3, 4 ]  1, 0"},
-                                   {2.0F, " 4850, 5104[ 3, 4 ]  2, 0"},
-                                   {4.0F, " 4850, 5104[ 3, 4 ]  2, 0"},
-                                   {509.0F, " 5103, 5104[ 3, 4 ]  255, 0"},
-                                   {510.0F, " 5104, 5104[ 4, 4 ]  0, 0"},
-                                   {-3.0F, " 4847, 5104[ 2, 4 ]  255, 0"}}) {
-        const auto shown = Move_cursor(project_, x, 0);
-        EXPECT_EQ(shown.value().VTP + shown.value().Cell, texts) << x;
-    }
+    Expect_cases("canvas/data/cursor.txt", [this](const Given& given) {
+        const auto texts = Move_cursor(project_, std::stof(given[0]), 0);
+        return texts.value().VTP + " " + texts.value().Cell;
+    });
     for (const float scale : {0.0F, -1.0F, 1e-6F}) {
         project_.ScaleX = scale;
         EXPECT_FALSE(Move_cursor(project_, 500, 21)) << scale;

@@ -1,6 +1,5 @@
 // The lists of LWM polygons and of cleared cells: their lines, deleting, closing points, limits.
-#include <gtest/gtest.h>
-
+#include "fakes/cases.h"
 #include "fakes/cell_picture.h"
 #include "fakes/recording_messages.h"
 #include "fakes/sample_projects.h"
@@ -37,21 +36,17 @@ TEST(LWMListTest, DeletingMovesAllOfTheLaterPolygonsDown) {
 }
 
 TEST(LWMListTest, AClosingPointIsDroppedAtEveryRefresh) {
-    for (const auto& [before, after] : {std::pair{"1,1 9,1 9,9 1,1", "1,1 9,1 9,9"},
-                                        {"1,1 9,1 1,1 1,1", "1,1 9,1 1,1"},
-                                        {"1,1 9,1 9,9 1,2", "1,1 9,1 9,9 1,2"},
-                                        {"5,5", ""},
-                                        {"", ""}}) {
+    Expect_cases("lwm/data/closing-points.txt", [](const Given& given) {
         Project p;
         p.LWMCount = 1;
-        for (const auto& [x, y] : Points_from(before)) {
+        for (const auto& [x, y] : Points_from(given[0])) {
             const int k = ++p.LWMPointCount(1);
             p.LWMPoint(1, k, 0) = x;
             p.LWMPoint(1, k, 1) = y;
         }
         Drop_closing_points(p);
-        EXPECT_EQ(Points_text(LWM_outline(p, 1)), after);
-    }
+        return Points_text(LWM_outline(p, 1));
+    });
 }
 
 TEST(KillListTest, CellsAreAddedListedAndDeleted) {
@@ -64,8 +59,7 @@ TEST(KillListTest, CellsAreAddedListedAndDeleted) {
     Delete_Kill_Cell(p, 2);
     EXPECT_EQ(Kill_list_lines(p), (Texts{"[ 8, 0 ] Coast", "[ 31, 0 ] Minor Roads",
                                          "[ 32, 0 ] Major Roads", "[ 9, 0 ]"}));
-    while (p.KillCount < 1000) Add_Kill_Cell(p, messages);
-    EXPECT_FALSE(Add_Kill_Cell(p, messages));
+    while (Add_Kill_Cell(p, messages)) continue;
     EXPECT_EQ(p.KillCount, 1000);
     EXPECT_EQ(messages.Said(),
               "The cell has not been cleared: a project holds at most 1000 cleared cells.");

@@ -64,16 +64,6 @@ class PolygonPropertiesTest : public testing::Test {
         return lines;
     }
 
-    template <class Check>
-    void For_random_cells(Check check) {
-        for (int cell = 0; cell < 2000 && !HasFailure(); ++cell) {
-            const int count = random_.Number(1, 6);
-            const std::string lines = Some_coastlines(count);
-            SCOPED_TRACE(lines);
-            check(lines, static_cast<std::size_t>(count));
-        }
-    }
-
     RandomNumbers random_{1};
 };
 
@@ -116,23 +106,6 @@ bool Is_simple(const Outline& piece) {
     return true;
 }
 
-TEST_F(PolygonPropertiesTest, ThePiecesAreSimpleAndFillTheCell) {
-    For_random_cells([](const std::string& lines, std::size_t count) {
-        RecordingMessages messages;
-        const auto candidates = Candidate_polygons(*Cell_project(lines), messages);
-        EXPECT_EQ(candidates.size(), 2 * count);
-        const auto pieces = Pieces_of(candidates);
-        EXPECT_EQ(pieces.size(), count + 1);
-        std::int64_t area2 = 0;
-        for (const auto& [text, piece] : pieces) {
-            EXPECT_TRUE(Is_simple(piece) && Area2(piece) > 0) << text;
-            area2 += Area2(piece);
-        }
-        EXPECT_EQ(area2, 2 * LastCellUnit * LastCellUnit);
-        EXPECT_EQ(messages.Said(), "");
-    });
-}
-
 double Mean_distance(const Outline& outline, CellPoint click) {
     double sum = 0;
     for (const CellPoint& p : outline)
@@ -140,22 +113,38 @@ double Mean_distance(const Outline& outline, CellPoint click) {
     return sum / static_cast<double>(outline.size());
 }
 
-TEST_F(PolygonPropertiesTest, TheNearestPieceIsPickedWhenItIsTheOneClicked) {
+// The pieces are simple and fill the cell, and the nearest one is picked when it is the one
+// clicked.
+TEST_F(PolygonPropertiesTest, EveryRandomCell) {
     int picked = 0;
-    For_random_cells([&](const std::string& lines, std::size_t) {
+    for (int cell = 0; cell < 2000 && !HasFailure(); ++cell) {
+        const int count = random_.Number(1, 6);
+        const std::string lines = Some_coastlines(count);
         const CellPoint click{random_.Number(1, 254), random_.Number(1, 254)};
+        SCOPED_TRACE(lines + Points_text({{click}}));
         const auto project = Cell_project(lines, click);
         RecordingMessages messages;
-        const auto pieces = Pieces_of(Candidate_polygons(*project, messages));
+        const auto candidates = Candidate_polygons(*project, messages);
+        EXPECT_EQ(std::ssize(candidates), 2 * count);
+        const auto pieces = Pieces_of(candidates);
+        EXPECT_EQ(std::ssize(pieces), count + 1);
+        std::int64_t area2 = 0;
+        for (const auto& [text, piece] : pieces) {
+            EXPECT_TRUE(Is_simple(piece) && Area2(piece) > 0) << text;
+            area2 += Area2(piece);
+        }
+        EXPECT_EQ(area2, 2 * LastCellUnit * LastCellUnit);
+
         const auto nearest = std::ranges::min_element(
             pieces, {}, [&](const auto& piece) { return Mean_distance(piece.second, click); });
         const auto is_around = [&](const auto& piece) { return Surrounds(piece.second, click); };
-        if (!is_around(*nearest) || std::ranges::count_if(pieces, is_around) > 1) return;
+        if (!is_around(*nearest) || std::ranges::count_if(pieces, is_around) > 1) continue;
         ++picked;
         const LWMPolyResult result = Add_LWM_Poly(*project, messages, HeightChoice::Conform, "");
         ASSERT_TRUE(result.Added && result.StatusLine.empty());
         EXPECT_EQ(Pieces_of({LWM_outline(*project, 1)}).begin()->first, nearest->first);
-    });
+        EXPECT_EQ(messages.Said(), "");
+    }
     EXPECT_GT(picked, 500);
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <span>
+#include <tuple>
 
 #include "fakes/cases.h"
 #include "fakes/random_numbers.h"
@@ -15,58 +16,33 @@
 namespace tidemark {
 namespace {
 
-// Points that know their segment by its number, which cannot have a flag wrong.
 struct PlainPoint {
-    int Segment, X, Y, Mode, Width;
+    int X, Y, Mode, Width;
+    bool Starts;  // a segment
 };
 
-class PlainModel {
-  public:
-    void Add(PlainPoint point, int selected, bool new_segment) {
-        const int count = static_cast<int>(points_.size());
-        const bool append = selected < 0 || selected == count - 1 || new_segment;
-        const auto place = points_.begin() + (append ? count : selected);
-        const bool starts = new_segment || place == points_.begin();
-        point.Segment = starts ? ++last_segment_ : std::prev(place)->Segment;
-        points_.insert(place, point);
-    }
-
-    void Delete(int position) { points_.erase(points_.begin() + position); }
-    void Change_width(int position, int width) { Segment_of(position).front().Width = width; }
-
-    void Reverse(int position) {
-        const auto segment = Segment_of(position);
-        for (std::size_t i = 0, j = segment.size() - 1; i < j; ++i, --j) {
-            std::swap(segment[i].X, segment[j].X);
-            std::swap(segment[i].Y, segment[j].Y);
-        }
+// The points in a list that grows and shrinks by itself.
+struct PlainModel : std::vector<PlainPoint> {
+    // The points of the segment in which a place lies.
+    std::span<PlainPoint> Segment_at(int place) {
+        auto first = begin() + place;
+        while (!first->Starts) --first;
+        return {first, std::find_if(first + 1, end(), [](auto& point) { return point.Starts; })};
     }
 
     Project Made() const {
         Project project;
-        int segment = 0;
-        for (const PlainPoint& point : points_) {
+        for (const auto& [x, y, mode, width, starts] : *this) {
             const int i = ++project.VTPCount;
-            project.VTPPoint(i, 0) = point.X;
-            project.VTPPoint(i, 1) = point.Y;
-            project.VTPMode(i) = point.Mode;
-            project.VTPWidth(i) = point.Width;
-            project.VTPSegStart(i) = std::exchange(segment, point.Segment) != point.Segment;
+            project.VTPPoint(i, 0) = x;
+            project.VTPPoint(i, 1) = y;
+            project.VTPMode(i) = mode;
+            project.VTPWidth(i) = width;
+            project.VTPSegStart(i) = starts;
+            project.VTPSegEnd(i) = i == std::ssize(*this) || at(static_cast<std::size_t>(i)).Starts;
         }
-        Repair_segments(project);
         return project;
     }
-
-  private:
-    std::span<PlainPoint> Segment_of(int position) {
-        const int segment = points_[static_cast<std::size_t>(position)].Segment;
-        const auto is_other = [=](const PlainPoint& point) { return point.Segment != segment; };
-        const auto first = std::ranges::find(points_, segment, &PlainPoint::Segment);
-        return {first, std::find_if(first, points_.end(), is_other)};
-    }
-
-    std::vector<PlainPoint> points_;
-    int last_segment_ = 0;
 };
 
 TEST(VTPPointsTest, RandomEditingMakesTheSameProjectAsOnPlainPoints) {
@@ -76,31 +52,36 @@ TEST(VTPPointsTest, RandomEditingMakesTheSameProjectAsOnPlainPoints) {
     RecordingMessages messages;
     for (int step = 0; step < 9000 && !HasFailure(); ++step) {
         SCOPED_TRACE(step);
-        const int selected = random.Number(-1, project.VTPCount - 1);
-        const int action = random.Number(0, project.VTPCount > 200 ? 9 : 7);  // few points remain
-        const int width = random.Number(0, 300);
+        const int count = project.VTPCount, selected = random.Number(-1, count - 1);
+        const int action = selected < 0 ? 0 : random.Number(0, count > 200 ? 9 : 7);
+        const int width = random.Number(0, 300), slot = selected + 1;
         project.DataChanged = false;
-        if (selected < 0 || action < 4) {
-            const PlainPoint point{0, random.Number(4080, 12271), random.Number(4080, 12271),
-                                   random.Number(0, 7), width};
-            const bool new_segment = random.One_in(4);
-            project.CursorVTPX = point.X;
-            project.CursorVTPY = point.Y;
-            project.DrawMode = point.Mode;
-            const auto place = Add_VTP_Point(project, {selected, new_segment, width}, messages);
-            EXPECT_EQ(project.VTPPoint(place.value() + 1, 0), point.X);
-            model.Add(point, selected, new_segment);
+        if (action < 4) {
+            const bool starts = random.One_in(4), at_end = slot == 0 || slot == count || starts;
+            project.CursorVTPX = random.Number(4080, 12271);
+            project.CursorVTPY = random.Number(4080, 12271);
+            project.DrawMode = random.Number(0, 7);
+            const int place = at_end ? count : selected;
+            EXPECT_EQ(Add_VTP_Point(project, {selected, starts, width}, messages), place);
+            model.insert(model.begin() + place,
+                         {project.CursorVTPX, project.CursorVTPY, project.DrawMode, width, starts});
         } else if (action == 4) {
-            Change_segment_width(project, selected + 1, width);
-            model.Change_width(selected, width);
+            Change_segment_width(project, slot, width);
+            model.Segment_at(selected).front().Width = width;
         } else if (action == 5) {
-            Reverse_segment(project, selected + 1);
-            model.Reverse(selected);
+            Reverse_segment(project, slot);
+            const std::span<PlainPoint> segment = model.Segment_at(selected);
+            const std::vector<PlainPoint> before(segment.rbegin(), segment.rend());
+            for (std::size_t i = 0; i < before.size(); ++i)
+                std::tie(segment[i].X, segment[i].Y) = std::tie(before[i].X, before[i].Y);
         } else {
-            Delete_VTP_Point(project, selected + 1);
-            model.Delete(selected);
+            Delete_VTP_Point(project, slot);
+            const bool started = model.at(static_cast<std::size_t>(selected)).Starts;
+            const auto next = model.erase(model.begin() + selected);
+            if (next != model.end()) next->Starts |= started;
         }
-        EXPECT_EQ(project.DataChanged, selected >= 0 && action == 5);
+        if (!model.empty()) model.front().Starts = true;
+        EXPECT_EQ(project.DataChanged, action == 5);
         Repair_segments(project);
         EXPECT_EQ(project, model.Made());
     }
