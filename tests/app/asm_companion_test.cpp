@@ -1,18 +1,11 @@
 // The console companion over files in memory.
 #include "app/asm_companion.h"
 
-#include <sstream>
-
-#include <gtest/gtest.h>
-
-#include "fakes/fake_platform.h"
-#include "fakes/sample_projects.h"
-#include "model/project_file.h"
+#include "fakes/rules_test.h"
 #include "output/lwm_text.h"
 #include "output/vtp_text.h"
 
 namespace tidemark {
-namespace {
 
 class CompanionTest : public testing::Test {
   protected:
@@ -69,5 +62,4 @@ TEST_F(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
     EXPECT_EQ(files_.Content["river-LWM.asm"], LWM_file_bytes(river_));
 }
 
-}  // namespace
 }  // namespace tidemark

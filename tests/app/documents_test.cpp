@@ -4,39 +4,26 @@
 #include <regex>
 #include <set>
 
-#include <gtest/gtest.h>
-
-#include "fakes/environment.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 namespace fs = std::filesystem;
 
 const std::string folder = TIDEMARK_SOURCE_DIR "/Documentation/";
 
-std::string Replaced(const std::string& text, const char* pattern, const char* by) {
-    return std::regex_replace(text, std::regex(pattern), by);
-}
-
-// What the pattern's group matches, each time.
-std::vector<std::string> Found(const std::string& text, const char* pattern) {
+// What the pattern's group matches each time, or with -1 what stands between.
+static std::vector<std::string> Found(const std::string& text, const char* pattern, int group = 1) {
     const std::regex regex(pattern);
-    return {std::sregex_token_iterator(text.begin(), text.end(), regex, 1), {}};
+    return {std::sregex_token_iterator(text.begin(), text.end(), regex, group), {}};
 }
 
 // As it reads: line ends and runs of blanks are one blank each.
-std::string Plain(const std::string& html) {
-    const std::string text = Replaced(Replaced(html, "&gt;", ">"), "&amp;", "&");
-    return Replaced(Replaced(text, "\\s+", " "), "^ | $", "");
-}
-
-std::vector<std::string> Split(const std::string& text, const char* separator) {
-    const std::regex regex(separator);
-    std::vector<std::string> parts{std::sregex_token_iterator(text.begin(), text.end(), regex, -1),
-                                   {}};
-    for (std::string& part : parts) part = Plain(part);
-    return parts;
+static std::string Plain(std::string text) {
+    for (const auto& [pattern, by] :
+         {std::pair{"&gt;", ">"}, {"&amp;", "&"}, {"\\s+", " "}, {"^ | $", ""}})
+        text = std::regex_replace(text, std::regex(pattern), by);
+    return text;
 }
 
 class DocumentsTest : public testing::TestWithParam<const char*> {
@@ -45,11 +32,13 @@ class DocumentsTest : public testing::TestWithParam<const char*> {
     static void SetUpTestSuite() {
         for (const auto& entry : fs::recursive_directory_iterator(TIDEMARK_SOURCE_DIR "/src")) {
             if (!entry.is_regular_file()) continue;
-            const std::string source =
-                Replaced(File_content(entry.path().string()), "\"\\s*\n\\s*\"", "");
-            for (const std::string& literal : Found(source, R"re("((?:[^"\\\n]|\\.)*)")re")) {
-                for (const std::string& line : Split(literal, R"(\\n)")) texts_ += line + '\n';
-                captions_.insert(Plain(Replaced(literal, "&", "")));
+            const std::string source = std::regex_replace(File_content(entry.path().string()),
+                                                          std::regex("\"\\s*\n\\s*\""), "");
+            for (std::string literal : Found(source, R"re("((?:[^"\\\n]|\\.)*)")re")) {
+                for (const std::string& line : Found(literal, R"(\\n)", -1))
+                    texts_ += Plain(line) + '\n';
+                std::erase(literal, '&');
+                captions_.insert(Plain(literal));
             }
         }
     }
@@ -78,14 +67,13 @@ TEST_P(DocumentsTest, EveryMenuEntryControlAndMessageIsTheProgramsOwn) {
     for (const std::string& control : Found(text_, "<b class=\"ui\">([^<]*)</b>"))
         EXPECT_TRUE(captions_.contains(Plain(control))) << control;
     for (const std::string& path : Found(text_, "<b class=\"menu\">([^<]*)</b>"))
-        for (const std::string& entry : Split(path, "&gt;"))
-            EXPECT_TRUE(captions_.contains(entry)) << path;
+        for (const std::string& entry : Found(path, "&gt;", -1))
+            EXPECT_TRUE(captions_.contains(Plain(entry))) << path;
     for (const std::string& message : Found(text_, "<q class=\"says\">([^]*?)</q>"))
-        for (const std::string& piece : Split(message, "<br>|<var>[^<]*</var>"))
-            EXPECT_NE(texts_.find(piece), texts_.npos) << message << "\nlacks: " << piece;
+        for (const std::string& piece : Found(message, "<br>|<var>[^<]*</var>", -1))
+            EXPECT_NE(texts_.find(Plain(piece)), texts_.npos) << message << "\nlacks: " << piece;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DocumentsTest, testing::Values("Instructions.html", "Tutorial.html"));
 
-}  // namespace
 }  // namespace tidemark

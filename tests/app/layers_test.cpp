@@ -6,17 +6,16 @@
 #include <gtest/gtest.h>
 
 namespace tidemark {
-namespace {
 
 namespace fs = std::filesystem;
 
-bool May_include(const std::string& room, const std::string& other) {
+static bool May_include(const std::string& room, const std::string& other) {
     const bool is_base = room == "model" || room == "platform";
     const bool other_is_base = other == "model" || other == "platform";
     return room == "app" || room == other || (!is_base && other_is_base);
 }
 
-bool Is_window(const std::string& name) {
+static bool Is_window(const std::string& name) {
     return name.starts_with("qt_") || name.find("_window.") != name.npos ||
            name == "main_tidemark.cpp";
 }
@@ -42,5 +41,4 @@ TEST(LayersTest, IncludesRunAlongTheArrowsAndRulesSeeNoQt) {
     EXPECT_GT(seen, 100);
 }
 
-}  // namespace
 }  // namespace tidemark

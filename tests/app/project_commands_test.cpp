@@ -1,14 +1,9 @@
 // Open, Save, Save As and Exit over files in memory.
 #include "app/project_commands.h"
 
-#include <gtest/gtest.h>
-
-#include "fakes/fake_platform.h"
-#include "fakes/sample_projects.h"
-#include "model/project_file.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 TEST(ProjectCommandsTest, AProjectIsSavedUnderAGoodNameOverAnotherOnlyAfterYes) {
     const std::string unsavable =
@@ -83,5 +78,4 @@ TEST(ProjectCommandsTest, OnlyUnsavedChangesAreAskedAboutAtTheExit) {
     EXPECT_TRUE(May_exit(p, messages));
 }
 
-}  // namespace
 }  // namespace tidemark

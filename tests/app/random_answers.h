@@ -71,7 +71,12 @@ class RandomAnswers : public QObject {
 
   private:
     void Answer(QDialog& dialog) {
-        if (auto* const box = qobject_cast<QMessageBox*>(&dialog)) return Answer_box(*box);
+        if (auto* const box = qobject_cast<QMessageBox*>(&dialog)) {
+            Messages << box->windowTitle() + ": " + box->text();
+            const auto buttons = box->buttons();
+            return random_.One_in(8) ? Press(*box, Qt::Key_Escape)
+                                     : Click(*random_.One_of(buttons));
+        }
         const auto& [name, fields, rows, buttons] = *std::ranges::find(
             AllAnswers, dialog.objectName(), [](const Answers& a) { return QString(a.Dialog); });
         for (const QString& button : buttons)
@@ -81,15 +86,6 @@ class RandomAnswers : public QObject {
             Control<QLineEdit>(dialog, fields[i]).setText(texts[i]);
         Press(dialog, random_.One_in(5) ? Qt::Key_Escape : Qt::Key_Enter);
         if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
-    }
-
-    void Answer_box(QMessageBox& box) {
-        Messages << box.windowTitle() + ": " + box.text();
-        const auto buttons = box.buttons();
-        if (random_.One_in(8))
-            Press(box, Qt::Key_Escape);
-        else
-            Click(*random_.One_of(buttons));
     }
 
     RandomNumbers& random_;

@@ -1,13 +1,9 @@
 // Choosing a background.
 #include "canvas/background.h"
 
-#include <gtest/gtest.h>
-
-#include "fakes/fake_platform.h"
-#include "fakes/sample_projects.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     const Project before = Project_of_all_values();
@@ -38,5 +34,4 @@ TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     EXPECT_EQ(fake.choosers.Shown.size(), 3U);
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,12 +1,9 @@
 // The left click on the map.
 #include "canvas/click.h"
 
-#include "fakes/cases.h"
-#include "fakes/recording_messages.h"
-#include "model/text_forms.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 TEST(LeftClickTest, TheItemTextDecidesWhatIsAdded) {
     Expect_cases("canvas/data/clicks.txt", [](const Given& given) {
@@ -24,5 +21,4 @@ TEST(LeftClickTest, TheItemTextDecidesWhatIsAdded) {
     });
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,11 +1,9 @@
 // Between the project's positions and the canvas's pixels.
 #include "canvas/map_frame.h"
 
-#include "fakes/cases.h"
-#include "fakes/sample_projects.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 class MapFrameTest : public testing::Test {
   protected:
@@ -49,5 +47,4 @@ TEST_F(MapFrameTest, TheNearestPointIsTheFirstOfThoseEquallyNear) {
     }
 }
 
-}  // namespace
 }  // namespace tidemark

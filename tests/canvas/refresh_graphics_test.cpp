@@ -1,16 +1,9 @@
 // What the project looks like, as operations on the drawing surface.
 #include "canvas/refresh_graphics.h"
 
-#include <sstream>
-
-#include <gtest/gtest.h>
-
-#include "fakes/environment.h"
-#include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 // Writes down what it is asked for, an operation a line.
 class RecordingSurface : public DrawingSurface {
@@ -75,5 +68,4 @@ TEST_F(RefreshGraphicsTest, WhatLiesTooFarAwayForSixteenBitsIsLeftOut) {
               "line (1, 0) to (2, 0)\nwidth 2\ncolour { 0, 0, 128 }\nwidth 2\n");
 }
 
-}  // namespace
 }  // namespace tidemark

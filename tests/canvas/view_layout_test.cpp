@@ -4,9 +4,8 @@
 #include "fakes/cases.h"
 
 namespace tidemark {
-namespace {
 
-std::string Text(const ScrollBarLayout& bar) {
+static std::string Text(const ScrollBarLayout& bar) {
     std::ostringstream text;
     text << bar.Place.Left << ',' << bar.Place.Top << ' ' << bar.Place.Width << 'x'
          << bar.Place.Height << " to " << int{bar.Maximum} << (bar.Visible ? " shown" : " hidden");
@@ -24,5 +23,4 @@ TEST(ViewLayoutTest, BarsShowAndMoveByTheSizeOfTheImage) {
     EXPECT_TRUE(Lay_out_view({10, 10}, {100, 100}, 16));  // a window of no size is no failure
 }
 
-}  // namespace
 }  // namespace tidemark

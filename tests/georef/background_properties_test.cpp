@@ -1,24 +1,15 @@
-// The background's place in the world, without its dialog.
+// The background's place in the world and the LOD8 cell of a position, without their dialogs.
 #include "georef/background_properties.h"
 
-#include <gmock/gmock.h>
-
-#include "fakes/cases.h"
-#include "fakes/recording_messages.h"
+#include "fakes/rules_test.h"
+#include "georef/cell_calculator.h"
 
 namespace tidemark {
-namespace {
 
 TEST(BackgroundPropertiesTest, LatitudesAndLongitudesOfCells) {
-    const auto place_in = [](const std::string& label, const std::string& quantity) {
-        const std::string begin = "( Appoximate " + quantity + " of this cell is ", end = " )";
-        EXPECT_TRUE(label.starts_with(begin) && label.ends_with(end)) << label;
-        return label.substr(begin.size(), label.size() - begin.size() - end.size());
-    };
     Expect_cases("georef/data/places.txt", [&](const Given& given) {
         const CellPlace place = Place_of_cell(given[0], given[1]);
-        return place_in(place.LatLabel, "Latitude") + ", " + place_in(place.LonLabel, "Longitude") +
-               "; " + place.HiddenLat + "," + place.HiddenLon;
+        return place.LatLabel + place.LonLabel + place.HiddenLat + "," + place.HiddenLon;
     });
 }
 
@@ -33,24 +24,20 @@ TEST(BackgroundPropertiesTest, FieldsInRangeAreStoredEvenBesideOthersThatAreNot)
         EXPECT_EQ(is_taken, messages.Shown.empty());
         std::string kept;
         for (const std::string& value : Georeference_texts(p)) kept += value + " ";
-        return is_taken ? kept.substr(0, kept.size() - 1) : kept + messages.Said();
+        return kept + "(" + messages.Said() + ")";
     });
     Expect_cases("georef/data/normalised.txt",
                  [](const Given& given) { return Normalised_field(given[0]); });
 }
 
-TEST(BackgroundPropertiesTest, TheAreaAndTheScaleFollowFromTheCorners) {
-    Project p;
-    p.BGLOD13tlX = 3;
-    p.BGLOD13tlY = p.BGLOD13brY = 4;
-    p.BGLOD13brX = 5;
-    Derive_area(p, 1536, 100);
-    const auto values = {p.AreaLeftVTP,   p.AreaTopVTP, p.AreaRightVTP,
-                         p.AreaBottomVTP, p.AreaWidth,  p.AreaHeight};
-    EXPECT_THAT(values, testing::ElementsAre(4848, 5104, 5616, 5360, 768, 256));
-    EXPECT_EQ(p.ScaleX, 2);
-    EXPECT_EQ(p.ScaleY, 100 / 256.0F);
+TEST(CellCalculatorTest, PositionsGiveTheirCellAndBadTextsAreToldAndReset) {
+    Expect_cases("georef/data/calculations.txt", [](const Given& given) {
+        RecordingMessages messages;
+        CalculatorTexts texts{given.at(0), given.at(1), given.at(2), given.at(3)};
+        const auto cell = Calculate_cell(texts, messages);
+        if (cell) return messages.Said() + Int_text(cell->X) + ", " + Int_text(cell->Y);
+        return messages.Said() + "\n" + texts.Latitude + ", " + texts.Longitude;
+    });
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,21 +1,10 @@
 // The sample's whole coast through the polygon builder: all 1024 cells, one at a time.
-#include <algorithm>
-#include <array>
-
-#include <gtest/gtest.h>
-
-#include "fakes/cell_picture.h"
-#include "fakes/environment.h"
-#include "fakes/recording_messages.h"
+#include "fakes/rules_test.h"
 #include "lwm/polygon_builder.h"
 #include "lwm/polygon_candidates.h"
 #include "model/cell_frame.h"
-#include "model/drawing_modes.h"
-#include "model/project_file.h"
-#include "model/segments.h"
 
 namespace tidemark {
-namespace {
 
 class GoldenGate : public testing::Test {
   protected:
@@ -52,6 +41,10 @@ class GoldenGate : public testing::Test {
         return crossed % 2 == 0;
     }
 
+    static bool One_surrounds(const std::vector<Outline>& pieces, CellPoint place) {
+        return std::ranges::any_of(pieces, [=](const Outline& p) { return Surrounds(p, place); });
+    }
+
     Outline Build(CellPoint click) {
         project.LWMCount = 0;
         project.DrawMode = Is_water(click) ? WaterPolygon : LandPolygon;
@@ -65,10 +58,6 @@ class GoldenGate : public testing::Test {
     RecordingMessages messages;
     std::vector<int> coast;  // the points from which a step of a coastline goes on
 };
-
-bool One_surrounds(const std::vector<Outline>& pieces, CellPoint place) {
-    return std::ranges::any_of(pieces, [=](const Outline& p) { return Surrounds(p, place); });
-}
 
 // Clicks all over a cell's water (or over its land where there is no water) build polygons that
 // cover all of it and nothing else. A click that builds another piece than its own counts for
@@ -116,5 +105,4 @@ TEST_F(GoldenGate, NeighboursMeet) {
     EXPECT_FALSE(leaving.empty());
 }
 
-}  // namespace
 }  // namespace tidemark

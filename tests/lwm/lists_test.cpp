@@ -1,17 +1,12 @@
 // The lists of LWM polygons and of cleared cells: their lines, deleting, closing points, limits.
-#include "fakes/cases.h"
-#include "fakes/cell_picture.h"
-#include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
+#include "fakes/rules_test.h"
 #include "lwm/kill_list.h"
 #include "lwm/lwm_list.h"
-#include "model/drawing_modes.h"
 
 namespace tidemark {
-namespace {
 
 // The polygons' lines and vertices.
-Texts Polygons(const Project& p) {
+static Texts Polygons(const Project& p) {
     Texts polygons = LWM_list_lines(p);
     for (int i = 1; i <= p.LWMCount; ++i)
         polygons[static_cast<std::size_t>(i - 1)] += ": " + Points_text(LWM_outline(p, i));
@@ -49,21 +44,13 @@ TEST(LWMListTest, AClosingPointIsDroppedAtEveryRefresh) {
     });
 }
 
-TEST(KillListTest, CellsAreAddedListedAndDeleted) {
+TEST(KillListTest, EveryCodeHasItsName) {
     Project p;
-    RecordingMessages messages;
-    for (const int code : {ClearCoastlines, ClearRivers, ClearMinorRoads, ClearMajorRoads, 9}) {
-        p.DrawMode = p.CursorCellX = code;
-        EXPECT_TRUE(Add_Kill_Cell(p, messages));
-    }
+    for (const int code : {ClearCoastlines, ClearRivers, ClearMinorRoads, ClearMajorRoads, 9})
+        Add_cleared_cell(p, code, 0, code);
     Delete_Kill_Cell(p, 2);
     EXPECT_EQ(Kill_list_lines(p), (Texts{"[ 8, 0 ] Coast", "[ 31, 0 ] Minor Roads",
                                          "[ 32, 0 ] Major Roads", "[ 9, 0 ]"}));
-    while (Add_Kill_Cell(p, messages)) continue;
-    EXPECT_EQ(p.KillCount, 1000);
-    EXPECT_EQ(messages.Said(),
-              "The cell has not been cleared: a project holds at most 1000 cleared cells.");
 }
 
-}  // namespace
 }  // namespace tidemark

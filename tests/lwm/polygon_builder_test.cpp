@@ -1,39 +1,13 @@
 // Building polygons, cell by cell: lines and a click in, messages and vertices out.
 #include "lwm/polygon_builder.h"
 
-#include "fakes/cases.h"
-#include "fakes/cell_picture.h"
-#include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
-#include "model/drawing_modes.h"
-#include "model/text_forms.h"
+#include "fakes/rules_test.h"
+#include "lwm/cell_edges.h"
 
 namespace tidemark {
-namespace {
-
-// "comb 3": as many bays at the top edge, and with that 2 boundary points each. "zigzag 5": one
-// coastline with as many points inside the cell. Any other text is lines itself.
-std::string Lines_of(const std::string& text) {
-    std::istringstream words(text);
-    std::string word, lines;
-    int count = 0;
-    words >> word >> count;
-    if (word == "zigzag") {
-        lines = "-100,100 ";
-        for (int x = 21; x <= count + 20; ++x)
-            lines += std::to_string(x) + (x % 2 ? ",90 " : ",110 ");
-        return lines + "300,100";
-    }
-    if (word != "comb") return text;
-    for (int x = 10; x < 10 + 10 * count; x += 10) {
-        const std::string left = std::to_string(x) + ",", right = std::to_string(x + 5) + ",";
-        lines += left + "-20 " + left + "99 " + right + "99 " + right + "-20 | ";
-    }
-    return lines;
-}
 
 // How the messages begin, and the polygon that is built. Nothing else may change.
-std::string Built(Project& project) {
+static std::string Built(Project& project) {
     Project before = project;
     RecordingMessages messages;
     const LWMPolyResult result = Add_LWM_Poly(project, messages, HeightChoice::Conform, "");
@@ -51,13 +25,37 @@ std::string Built(Project& project) {
     return built + (result.StatusLine.empty() ? "" : " beside");
 }
 
+TEST(PolygonBuilderTest, AStepCrossesTheBoundaryWhereItsLineDoes) {
+    Expect_cases("lwm/data/crossings.txt", [](const Given& given) {
+        const auto project = Cell_project(given[0]);
+        RecordingMessages messages;
+        CellEdges edges(*project, messages);
+        edges.Point_in_cell(1);
+        edges.Add_Edge_Crossing(2, false);
+        return Points_text({{edges.EdgePoint(1)}});
+    });
+}
+
 TEST(PolygonBuilderTest, CellsAreCutAlongTheirCoastlines) {
     Expect_cases("lwm/data/cells.txt", [](const Given& given) {
-        const auto project = Cell_project(Lines_of(given.at(1)), Points_from(given[0])[0]);
+        const auto project = Cell_project(given.at(1), Points_from(given[0])[0]);
         std::istringstream points(given.size() > 2 ? given[2] : "");
         for (int point = 0; points >> point;) project->VTPSegEnd(point) = false;
         return Built(*project);
     });
+}
+
+TEST(PolygonBuilderTest, ACoastlineOfMorePointsThanAPolygonHoldsIsToldOnceForEverySide) {
+    const std::string overflow = "Fatal error - polygon overflow\nLikely cause is a VTP...\n";
+    for (const auto& [points, y, built] :
+         {std::tuple{196, 100, std::string("200 points")},
+          {197, 100, overflow + overflow + "200 points"},
+          {199, 200, "The polygon has not been added: the coastlines may h..."}}) {
+        std::string line = "-100,100";
+        for (int x = 21; x <= points + 20; ++x)
+            line += " " + std::to_string(x) + (x % 2 ? ",90" : ",110");
+        EXPECT_EQ(Built(*Cell_project(line + " 300,100", {100, y})), built);
+    }
 }
 
 TEST(PolygonBuilderTest, TheRecordHoldsCellTypeAndHeight) {
@@ -85,5 +83,4 @@ TEST(PolygonBuilderTest, A201stPolygonIsRefused) {
     EXPECT_EQ(Built(*project), "The polygon has not been added: a project holds at m...");
 }
 
-}  // namespace
 }  // namespace tidemark

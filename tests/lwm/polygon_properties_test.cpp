@@ -1,19 +1,12 @@
 // What holds for every cell with coastlines such as a careful user could draw: none touches itself
 // or another, and each has points in the cell wherever it passes through.
-#include <algorithm>
 #include <cmath>
-#include <map>
 
-#include <gtest/gtest.h>
-
-#include "fakes/cell_picture.h"
-#include "fakes/random_numbers.h"
-#include "fakes/recording_messages.h"
+#include "fakes/rules_test.h"
 #include "lwm/polygon_builder.h"
 #include "lwm/polygon_candidates.h"
 
 namespace tidemark {
-namespace {
 
 using Coastline = std::vector<CellPoint>;
 
@@ -68,17 +61,17 @@ class PolygonPropertiesTest : public testing::Test {
 };
 
 // Twice the area of the triangle, positive when it is walked clockwise on the map.
-std::int64_t Turn(CellPoint a, CellPoint b, CellPoint p) {
+static std::int64_t Turn(CellPoint a, CellPoint b, CellPoint p) {
     return (int{b.X} - int{a.X}) * (int{p.Y} - int{a.Y}) -
            (int{b.Y} - int{a.Y}) * (int{p.X} - int{a.X});
 }
 
-bool Do_cross(CellPoint a, CellPoint b, CellPoint c, CellPoint d) {
+static bool Do_cross(CellPoint a, CellPoint b, CellPoint c, CellPoint d) {
     return Turn(a, b, c) * Turn(a, b, d) < 0 && Turn(c, d, a) * Turn(c, d, b) < 0;
 }
 
 // The different pieces of the cell, each from its smallest vertex on and by its text.
-std::map<std::string, Outline> Pieces_of(std::vector<Outline> candidates) {
+static std::map<std::string, Outline> Pieces_of(std::vector<Outline> candidates) {
     std::map<std::string, Outline> pieces;
     for (Outline& piece : candidates) {
         const auto order = [](CellPoint p) { return 1000 * int{p.Y} + int{p.X}; };
@@ -88,7 +81,7 @@ std::map<std::string, Outline> Pieces_of(std::vector<Outline> candidates) {
     return pieces;
 }
 
-std::int64_t Area2(const Outline& piece) {
+static std::int64_t Area2(const Outline& piece) {
     std::int64_t area = 0;
     for (std::size_t i = 0; i < piece.size(); ++i)
         area += Turn({0, 0}, piece[i], piece[(i + 1) % piece.size()]);
@@ -96,7 +89,7 @@ std::int64_t Area2(const Outline& piece) {
 }
 
 // No two sides cross, and no vertex comes twice.
-bool Is_simple(const Outline& piece) {
+static bool Is_simple(const Outline& piece) {
     const std::size_t n = piece.size();
     for (std::size_t i = 0; i < n; ++i)
         for (std::size_t j = i + 1; j < n; ++j)
@@ -106,7 +99,7 @@ bool Is_simple(const Outline& piece) {
     return true;
 }
 
-double Mean_distance(const Outline& outline, CellPoint click) {
+static double Mean_distance(const Outline& outline, CellPoint click) {
     double sum = 0;
     for (const CellPoint& p : outline)
         sum += std::hypot(int{p.X} - int{click.X}, int{p.Y} - int{click.Y});
@@ -148,5 +141,4 @@ TEST_F(PolygonPropertiesTest, EveryRandomCell) {
     EXPECT_GT(picked, 500);
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,14 +1,10 @@
 // Checked numbers, roundings, and the text forms of numbers and paths.
-#include <map>
-
-#include "fakes/cases.h"
+#include "fakes/rules_test.h"
 #include "model/path_text.h"
 #include "model/rounding.h"
 #include "model/table.h"
-#include "model/text_forms.h"
 
 namespace tidemark {
-namespace {
 
 TEST(NumbersTest, ArithmeticAndIndexesAreCheckedAndNeverWrap) {
     EXPECT_EQ(Int16(300) * 100 + 2767, 32767);
@@ -23,7 +19,7 @@ TEST(NumbersTest, ArithmeticAndIndexesAreCheckedAndNeverWrap) {
         EXPECT_THROW(table(i, j), std::out_of_range);
 }
 
-std::string Shown(double value) {
+static std::string Shown(double value) {
     std::ostringstream text;
     text << value + 0.0;  // which makes a positive zero of a negative one
     return text.str();
@@ -51,5 +47,4 @@ TEST(NumbersTest, RoundingsAndTextForms) {
         EXPECT_NEAR(Numeric_value(Blank_text(value)) / static_cast<double>(value), 1, 5e-7);
 }
 
-}  // namespace
 }  // namespace tidemark

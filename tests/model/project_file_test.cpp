@@ -1,13 +1,7 @@
 // The project file: its bytes line by line, what is read back, what is refused.
-#include "model/project_file.h"
-
-#include <gtest/gtest.h>
-
-#include "fakes/environment.h"
-#include "fakes/sample_projects.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 using namespace std::string_literals;
 
@@ -68,25 +62,16 @@ TEST_F(ProjectFileTest, WhatIsMissingAtTheEndIsZeroOffAndEmptyAndOnlyTrueWithIts
 }
 
 TEST_F(ProjectFileTest, WhatCannotBeHeldIsRefusedAtItsLineAndTheProjectStays) {
-    const std::string nines(60, '9'), shown(40, '9');
-    for (const auto& [line, text, what] :
-         {std::tuple{2, " 32768"s, "AreaLeftVTP does not fit -32768..32767:  32768"s},
-          {14, " 1e39", "ScaleX is not a 32-bit number:  1e39"},
-          {16, " 1000", "VTPCount is 1000, not in 0..999"},
-          {16, "-1", "VTPCount is -1, not in 0..999"},
-          {17, " 201", "LWMCount is 201, not in 0..200"},
-          {18, " 1001", "KillCount is 1001, not in 0..1000"},
-          {23, nines, "VTPMode does not fit -32768..32767: " + shown + "..."},
-          {49, " 201", "LWMPointCount is 201, not in 0..200"},
-          {88, "a\0b"s, "LWMFileName holds a NUL"},
-          {89, std::string(32768, 'v'), "VTPFileName is longer than 32767 bytes"}}) {
+    const auto refused = [this](int line, const std::string& text) {
         Project project = all_values_;
         const auto reading = Read_project(With_line(line, text), project);
-        ASSERT_TRUE(reading.Error.has_value()) << what;
-        EXPECT_EQ(reading.Error->What, what);
-        EXPECT_EQ(reading.Error->Line, line) << what;
-        EXPECT_TRUE(project == all_values_) << what;
-    }
+        EXPECT_TRUE(project == all_values_);
+        return std::to_string(reading.Error.value().Line) + ": " + reading.Error.value().What;
+    };
+    Expect_cases("model/data/refusals.txt",
+                 [&](const Given& given) { return refused(std::stoi(given[0]), given[1]); });
+    EXPECT_EQ(refused(88, "a\0b"s), "88: LWMFileName holds a NUL");
+    EXPECT_EQ(refused(89, std::string(32768, 'v')), "89: VTPFileName is longer than 32767 bytes");
 }
 
 TEST_F(ProjectFileTest, BytesThatAreNoUTF8AreTakenAsLatin1) {
@@ -106,5 +91,4 @@ TEST_F(ProjectFileTest, BytesThatAreNoUTF8AreTakenAsLatin1) {
     }
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,13 +1,10 @@
 // The sequence after saving, step by step, with files and programs that are only written down.
 #include "output/after_save.h"
 
-#include "fakes/cases.h"
-#include "fakes/fake_platform.h"
-#include "fakes/sample_projects.h"
+#include "fakes/rules_test.h"
 #include "platform/patience.h"
 
 namespace tidemark {
-namespace {
 
 const std::string bgl = "/s/Skye-VTP.BGL", copied = "/fs/Skye-VTP.BGL";
 
@@ -96,6 +93,34 @@ TEST(AfterSaveTest, TheRightFilesAreShownStartedAndReplaced) {
     EXPECT_TRUE(named_like_it.files.Exists("/s/Coast.BGL")) << "never deleted";
 }
 
+class RealPatience : public Patience {
+    void Wait(const std::string&, int milliseconds) override {
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    }
+};
+
+// With a real compiler, real folders and real time.
+TEST(AfterSaveTest, ASlowCompilersFileIsCopiedWholeOverTheOldOneWhateverItsNamesAndTheirCase) {
+    const Variable delay("STANDIN_DELAY", "1"), pieces("STANDIN_PIECES", "6");
+    const Variable lower("STANDIN_LOWER_CASE", "1");
+    const TemporaryFolder simulator;
+    const WorkingFolder scenery;
+    const std::string text = Source_file("tests/output/data/one-segment-VTP.asm");
+    const std::string file = "-VTP a;$(b)'.asm", compiled = simulator / "-VTP a;$(b)'.BGL";
+    std::filesystem::copy_file(STANDIN_COMPILER, "bglc.exe");
+    Write_file(file, text);
+    Write_file("-vtp A;$(B)'.bgl", "of an earlier run");
+    Write_file(compiled, "of an earlier run");
+    RecordingMessages messages;
+    DiskFiles files;
+    SystemPrograms programs;
+    RealPatience patience;
+    After_save({file, false, true, true, simulator.Path()}, messages, files, programs, patience);
+    EXPECT_EQ(messages.Said(),
+              "Tidemark - File OK: -VTP a;$(b)'.BGL successfully copied to " + simulator.Path());
+    EXPECT_EQ(File_content(compiled), "BGL begins\n" + text + "BGL ends");
+}
+
 TEST(AfterSaveTest, TheTasksAreThoseOfTheProject) {
     Project project = Project_of_all_values();
     project.LWMNotepad = true;
@@ -107,5 +132,4 @@ TEST(AfterSaveTest, TheTasksAreThoseOfTheProject) {
     EXPECT_TRUE(!vtp.Notepad && !vtp.Compile && vtp.CopyToFS);
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -2,18 +2,12 @@
 // refusals.
 #include "output/assembler_files.h"
 
-#include <gtest/gtest.h>
-
-#include "fakes/environment.h"
-#include "fakes/fake_platform.h"
-#include "fakes/sample_projects.h"
-#include "model/project_file.h"
+#include "fakes/rules_test.h"
 #include "output/lwm_text.h"
 #include "output/vtp_text.h"
 #include "standin/assembler_check.h"
 
 namespace tidemark {
-namespace {
 
 using Points = std::vector<std::pair<int, int>>;
 
@@ -34,6 +28,7 @@ class AssemblerFilesTest : public testing::Test {
     }
 
     Project p;
+    FakePlatform fake;
 };
 
 TEST_F(AssemblerFilesTest, TheWholeFileOfOneSegmentAndOneClearedCellAndThatOfOnePolygon) {
@@ -80,52 +75,38 @@ TEST_F(AssemblerFilesTest, TheLimitsStayWithinPolesAndDateLine) {
 }
 
 TEST_F(AssemblerFilesTest, WhatCannotBeWrittenIsRefusedAndTheOldFileStays) {
-    const std::string nothing = "no valid coast segments or cell clearing data found in VTP data!";
-    const std::string single =
-        "there is a VTP segment with only one point in it!\nPlease delete this point and try "
-        "again.";
-    const std::string mode_8 = "the segment that starts at point 1 has the unknown drawing mode 8!";
     p.VTPFileName = "v.asm";
-    for (const auto& [mode, points, text] :
-         {std::tuple{1, Points{}, nothing},
-          {0, {{1, 1}, {2, 2}}, nothing},
-          {0, {{5000, 5000}}, single},
-          {8, {{5000, 5000}, {5001, 5000}}, mode_8},
-          {1, {{-32768, 0}, {0, 0}}, "a point lies too far outside the map!"}}) {
+    Expect_cases("output/data/refusals.txt", [this](const Given& given) {
         p.VTPCount = 0;
-        Add_segment(p, mode, 80, points);
-        FakePlatform fake;
+        Points points;
+        for (const auto& [x, y] : Points_from(given[1])) points.emplace_back(x, y);
+        Add_segment(p, std::stoi(given[0]), 80, points);
         fake.files.Content["v.asm"] = "old";
-        EXPECT_FALSE(Save_VTP_file(p, fake.messages, fake.files)) << text;
-        EXPECT_TRUE(p.VTPWriteFailed) << text;
-        EXPECT_EQ(fake.messages.Said(), "VTP file generation aborted - " + text);
-        EXPECT_EQ(fake.files.Content["v.asm"], "old") << text;
-    }
+        EXPECT_FALSE(Save_VTP_file(p, fake.messages, fake.files));
+        EXPECT_TRUE(p.VTPWriteFailed && fake.files.Content["v.asm"] == "old");
+        return fake.messages.Said();
+    });
 }
 
 TEST_F(AssemblerFilesTest, ASavedFileIsSaidToBeUnlessAnActionWillShowIt) {
-    const std::string saved = "Tidemark - File saved: ";
     Add_cleared_cell(p, 1, 1, 8);
     p.VTPFileName = "v";
     p.LWMFileName = "l";
-    for (const auto& [notepad, compile, error, vtp, lwm] :
-         {std::tuple{false, false, "", saved + "VTP file saved OK", saved + "LWM file saved OK"},
-          {true, false, "", "", ""},
-          {false, true, "", "", ""},
-          {true, true, "full", "v could not be written: full", "l could not be written: full"}}) {
+    const auto said = [&](bool notepad, bool compile) {
         p.VTPNotepad = p.LWMNotepad = notepad;
         p.VTPCompile = p.LWMCompile = compile;
-        p.VTPWriteFailed = true;
-        FakePlatform fake;
-        fake.files.WriteError = error;
-        const bool is_saved = fake.files.WriteError.empty();
-        EXPECT_EQ(Save_VTP_file(p, fake.messages, fake.files), is_saved);
-        EXPECT_EQ(fake.messages.Said(), vtp);
-        EXPECT_EQ(p.VTPWriteFailed, !is_saved);
-        EXPECT_EQ(Save_LWM_file(p, fake.messages, fake.files), is_saved);
-        EXPECT_EQ(fake.messages.Said(), lwm);
-    }
+        const bool fails = !fake.files.WriteError.empty();
+        p.VTPWriteFailed = !fails;
+        EXPECT_EQ(Save_VTP_file(p, fake.messages, fake.files), !fails);
+        EXPECT_EQ(Save_LWM_file(p, fake.messages, fake.files), !fails);
+        EXPECT_EQ(p.VTPWriteFailed, fails);
+        return fake.messages.Said();
+    };
+    EXPECT_EQ(said(false, false),
+              "Tidemark - File saved: VTP file saved OK\nTidemark - File saved: LWM file saved OK");
+    EXPECT_EQ(said(true, false) + said(false, true), "");
+    fake.files.WriteError = "full";
+    EXPECT_EQ(said(true, true), "v could not be written: full\nl could not be written: full");
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,12 +1,9 @@
 // Instructions, Tutorial and About.
 #include "output/help.h"
 
-#include <gtest/gtest.h>
-
-#include "fakes/fake_platform.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 TEST(HelpTest, ADocumentBelowTheCurrentFolderComesFirstAndWithoutABrowserItsNameIsTold) {
     const std::string here = "/home/me/Documentation/Tutorial.html";
@@ -38,5 +35,4 @@ TEST(HelpTest, AboutHasElevenLines) {
     EXPECT_TRUE(about.starts_with("About Tidemark: Tidemark ( V 1.1 - 27th January 2003 )\n\n"));
 }
 
-}  // namespace
 }  // namespace tidemark

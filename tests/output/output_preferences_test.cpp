@@ -1,15 +1,14 @@
 // The output names and the Output Preferences dialog's rules.
 #include "output/output_preferences.h"
 
-#include <map>
-
-#include "fakes/cases.h"
-#include "fakes/fake_platform.h"
+#include "fakes/rules_test.h"
 #include "output/help.h"
 #include "output/output_names.h"
 
 namespace tidemark {
-namespace {
+
+const std::string unusable =
+    "This name cannot be used: it holds a line end or a NUL, or it is too long.";
 
 TEST(OutputNamesTest, AreMadeOfTheRootAndOfTheAssemblerFile) {
     const std::map<std::string, std::string (*)(const std::string&)> names{
@@ -40,19 +39,18 @@ TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
 }
 
 TEST(OutputPreferencesTest, OKRefusesWhatIsNoNameOrCannotBeSaved) {
-    const std::string unusable =
-        "This name cannot be used: it holds a line end or a NUL, or it is too long.";
-    for (const auto& [root, folder, said] :
-         {std::tuple<std::string, std::string, std::string>{"/out/Skye.asm", "", ""},
-          {"/out/Skye", "/fs", "Selected filename root is not valid"},
-          {"/out/Sk\nye.asm", "/fs", unusable},
-          {"/out/Skye.asm", "/fs\r", unusable},
-          {std::string("a\0.asm", 6), "/fs", unusable},
-          {std::string(32764, 'a') + ".", "", unusable}}) {
-        RecordingMessages messages;
-        EXPECT_EQ(Check_preferences({.RootText = root, .FSname = folder}, messages), said.empty());
-        EXPECT_EQ(messages.Said(), said);
-    }
+    RecordingMessages messages;
+    const auto said = [&](const std::string& root, const std::string& folder) {
+        const bool is_good = Check_preferences({.RootText = root, .FSname = folder}, messages);
+        EXPECT_EQ(is_good, messages.Shown.empty());
+        return messages.Said();
+    };
+    EXPECT_EQ(said("/out/Skye.asm", ""), "");
+    EXPECT_EQ(said("/out/Skye", "/fs"), "Selected filename root is not valid");
+    for (const std::string& root :
+         {std::string("/out/Sk\nye.asm"), std::string("a\0.asm", 6), std::string(32764, 'a') + "."})
+        EXPECT_EQ(said(root, "/fs"), unusable);
+    EXPECT_EQ(said("/out/Skye.asm", "/fs\r"), unusable);
 }
 
 TEST(OutputPreferencesTest, BrowsingGivesTheFileOrItsFolder) {
@@ -63,12 +61,11 @@ TEST(OutputPreferencesTest, BrowsingGivesTheFileOrItsFolder) {
     EXPECT_EQ(Browse_folder(folder, fake.platform), R"(C:\Scenery\)");
     EXPECT_EQ(Browse_folder(folder, fake.platform), std::nullopt) << "cancelled";
     EXPECT_EQ(Browse_root(root, fake.platform), std::nullopt) << "refused";
-    EXPECT_EQ(fake.messages.Shown.size(), 1U);
+    EXPECT_EQ(fake.messages.Said(), unusable);
     const auto& shown = fake.choosers.Shown;
     EXPECT_EQ(shown[0].Title + shown[0].FileName, "Gridsmith - Save As*.asm");
     EXPECT_EQ(shown[1].Title + shown[1].FileName, "Gridsmith - Set FS folder*.BGL");
     EXPECT_EQ(shown[2].InitialFolder + shown[2].FileName, R"(/startC:\Scenery\any.BGL)");
 }
 
-}  // namespace
 }  // namespace tidemark

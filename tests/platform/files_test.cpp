@@ -8,13 +8,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <gtest/gtest.h>
-
-#include "fakes/environment.h"
-#include "fakes/temporary_folder.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 class FilesTest : public testing::Test {
   protected:
@@ -25,11 +21,9 @@ class FilesTest : public testing::Test {
 
 TEST_F(FilesTest, AFileIsFoundWhateverTheCaseOfItsNameMeasuredAndRemoved) {
     for (const char* name : {"bglc.exe", "Skye.BGL", "Skye.bgl"}) Write_file(folder_ / name, name);
-    EXPECT_EQ(files_.Find(folder_ / "BGLC.EXE"), folder_ / "bglc.exe");
-    EXPECT_EQ(files_.Find(folder_ / "Skye.bgl"), folder_ / "Skye.bgl")
-        << "its own name comes first";
-    EXPECT_EQ(files_.Find(folder_ / "skye.bgl"), folder_ / "Skye.BGL")
-        << "then the alphabet decides";
+    for (const auto& [name, found] :
+         {std::pair{"BGLC.EXE", "bglc.exe"}, {"Skye.bgl", "Skye.bgl"}, {"skye.bgl", "Skye.BGL"}})
+        EXPECT_EQ(files_.Find(folder_ / name), folder_ / found) << "or the alphabet decides";
     EXPECT_EQ(files_.Find(folder_ / "no such folder/skye.bgl"), std::nullopt);
     EXPECT_EQ(files_.Size(folder_ / "Skye.BGL"), 8U);
     EXPECT_EQ(files_.Size(folder_ / "none"), std::nullopt);
@@ -104,5 +98,4 @@ TEST_F(FilesTest, OnlyAFileWithinTheLimitIsRead) {
     EXPECT_EQ(bytes, "12345");
 }
 
-}  // namespace
 }  // namespace tidemark

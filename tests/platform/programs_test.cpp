@@ -4,13 +4,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <gtest/gtest.h>
-
-#include "fakes/environment.h"
-#include "fakes/temporary_folder.h"
+#include "fakes/rules_test.h"
 
 namespace tidemark {
-namespace {
 
 class ProgramsTest : public testing::Test {
   protected:
@@ -97,5 +93,4 @@ TEST_F(ProgramsTest, AWindowsProgramGoesThroughWineAndADocumentThroughTheDesktop
     EXPECT_TRUE(Recorded().ends_with("\n/x y.asm\n"));
 }
 
-}  // namespace
 }  // namespace tidemark

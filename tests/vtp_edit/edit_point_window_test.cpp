@@ -1,16 +1,9 @@
 // The Edit Point dialog, by mouse and keys.
 #include "vtp_edit/edit_point_window.h"
 
-#include <QPushButton>
-
-#include "fakes/cases.h"
-#include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
-#include "model/text_forms.h"
-#include "walk/driver.h"
+#include "fakes/window_test.h"
 
 namespace tidemark {
-namespace {
 
 // An area of 2 x 3 cells with its top-left cell at column 3, row 5, and a point in it.
 class EditPointTest : public testing::Test {
@@ -74,5 +67,4 @@ TEST_F(EditPointTest, TheChosenFormIsCheckedAndStored) {
     EXPECT_TRUE(project.DataChanged);
 }
 
-}  // namespace
 }  // namespace tidemark

@@ -1,20 +1,10 @@
 // Random editing of the VTP points beside the same operations on plain points, and the list lines.
 #include "vtp_edit/vtp_points.h"
 
-#include <algorithm>
-#include <span>
-#include <tuple>
-
-#include "fakes/cases.h"
-#include "fakes/random_numbers.h"
-#include "fakes/recording_messages.h"
-#include "fakes/sample_projects.h"
-#include "model/segments.h"
-#include "model/text_forms.h"
+#include "fakes/rules_test.h"
 #include "vtp_edit/vtp_list.h"
 
 namespace tidemark {
-namespace {
 
 struct PlainPoint {
     int X, Y, Mode, Width;
@@ -112,5 +102,4 @@ TEST(VTPPointsTest, AWidthIsRoundedAndRefusedOutside0To300) {
     });
 }
 
-}  // namespace
 }  // namespace tidemark
