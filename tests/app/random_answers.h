@@ -12,42 +12,35 @@
 
 namespace tidemark {
 
-// How a dialog is answered: one of the rows of texts goes into its fields, some of its buttons are
-// clicked, and Enter or Escape ends it. Files are named below the current folder.
+// How a dialog is answered: one of the rows goes into its fields, some of its buttons are clicked,
+// and Enter or Escape ends it. Files are named below the current folder.
 struct Answers {
-    const char* Dialog;
-    QStringList Fields;
-    std::vector<QStringList> Rows;
-    QStringList Buttons = {};
+    QString Dialog, Fields, Buttons;
+    std::vector<QString> Rows;
 };
 
 // Good answers are more likely than bad ones, so that every dialog ends. The preferences that would
 // start a program stay as they are.
 inline const std::vector<Answers> AllAnswers{
     {"EditPoint",
-     {"VTPX", "VTPY", "LOD13X", "LOD13Y"},
-     {{"5000", "5600", "0", "255"},
-      {"5104.5", "5871", "128", "127.5"},
-      {"4848", "6129", " 12.5 ", "256"},
-      {"x", "1e99", "-1", ""}},
-     {"Option1", "Option2"}},
+     "VTPX,VTPY,LOD13X,LOD13Y",
+     "Option1,Option2",
+     {"5000,5600,0,255", "5104.5,5871,128,127.5", "4848,6129, 12.5 ,256", "x,1e99,-1,"}},
     {"Preferences",
-     {"RootText", "FSname"},
-     {{"./one.asm", "."}, {"./two.x", "."}, {"./no such folder/x.asm", ""}, {"no extension", "."}},
-     {"Check2", "Check4", "FScopy"}},
+     "RootText,FSname",
+     "Check2,Check4,FScopy",
+     {"./one.asm,.", "./two.x,.", "./no such folder/x.asm,", "no extension,."}},
     {"BGproperties",
-     {"LOD8X", "LOD8Y", "LOD13tlX", "LOD13tlY", "LOD13brX", "LOD13brY"},
-     {{"122", "148", "3", "5", "5", "7"},
-      {"767", "511", "29", "29", "31", "31"},
-      {"0", "0", "0", "12", "2", "14"},
-      {"768", "0", "9", "9", "8", "11"}},
-     {"ShowCalc"}},
+     "LOD8X,LOD8Y,LOD13tlX,LOD13tlY,LOD13brX,LOD13brY",
+     "ShowCalc",
+     {"122,148,3,5,5,7", "767,511,29,29,31,31", "0,0,0,12,2,14", "768,0,9,9,8,11"}},
     {"CellCalculator",
-     {"CalcLatText", "CalcLonText"},
-     {{"37:49:12.5", "122:28:42"}, {"8:60:60", "0:7:0"}, {"91:00:00", "0:0:0"}, {"5:7", "::"}}},
-    {"LoadBMPdialog", {"fileNameEdit"}, {{"map.bmp"}, {"map2.bmp"}, {"broken.bmp"}}},
-    {"OpenProject", {"fileNameEdit"}, {{"a.TDM"}, {"b.TDM"}, {"none"}}},
-    {"SaveProject", {"fileNameEdit"}, {{"a.TDM"}, {"b.TDM"}, {"c"}}},
+     "CalcLatText,CalcLonText",
+     "",
+     {"37:49:12.5,122:28:42", "8:60:60,0:7:0", "91:00:00,0:0:0", "5:7,::"}},
+    {"LoadBMPdialog", "fileNameEdit", "", {"map.bmp", "map2.bmp", "broken.bmp"}},
+    {"OpenProject", "fileNameEdit", "", {"a.TDM", "b.TDM", "none"}},
+    {"SaveProject", "fileNameEdit", "", {"a.TDM", "b.TDM", "c"}},
 };
 
 // While it lives, each dialog of the program is answered in the first turn of its own event loop.
@@ -77,13 +70,13 @@ class RandomAnswers : public QObject {
             return random_.One_in(8) ? Press(*box, Qt::Key_Escape)
                                      : Click(*random_.One_of(buttons));
         }
-        const auto& [name, fields, rows, buttons] = *std::ranges::find(
-            AllAnswers, dialog.objectName(), [](const Answers& a) { return QString(a.Dialog); });
-        for (const QString& button : buttons)
+        const auto& [name, fields, buttons, rows] =
+            *std::ranges::find(AllAnswers, dialog.objectName(), &Answers::Dialog);
+        for (const QString& button : buttons.split(',', Qt::SkipEmptyParts))
             if (random_.One_in(3)) Click(Control<QAbstractButton>(dialog, button));
-        const QStringList& texts = random_.One_of(rows);
-        for (qsizetype i = 0; i < fields.size(); ++i)
-            Control<QLineEdit>(dialog, fields[i]).setText(texts[i]);
+        const QStringList texts = random_.One_of(rows).split(',');
+        for (qsizetype i = 0; i < texts.size(); ++i)
+            Control<QLineEdit>(dialog, fields.split(',')[i]).setText(texts[i]);
         Press(dialog, random_.One_in(5) ? Qt::Key_Escape : Qt::Key_Enter);
         if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
     }

@@ -19,40 +19,33 @@
 
 namespace tidemark {
 
-// The first thing that no editing makes, "" when all is well. Columns and rows run to 32: the map's
-// last pixel can lie just beyond its area.
+// What no editing makes, "" when all is well. Columns and rows run to 32: the map's last pixel can
+// lie just beyond its area.
 static std::string Fault_in(const Project& p) {
-    std::string fault;
-    const auto check = [&](const char* what, int i, int value, int lowest, int highest) {
-        if (fault.empty() && (value < lowest || value > highest))
-            fault = what + std::to_string(i) + ": " + std::to_string(value);
+    const auto within = [](int value, int lowest, int highest) {
+        return lowest <= value && value <= highest;
     };
-    const auto check_mode = [&](const char* what, int i, Int16 mode, Adds adds) {
-        if (!Find_mode(mode, adds)) check(what, i, mode, 1, 0);
+    const auto pair_within = [&](const auto& table, int lowest, int highest, auto... at) {
+        return within(table(at..., 0), lowest, highest) && within(table(at..., 1), lowest, highest);
     };
-    for (int i = 1; i <= p.VTPCount; ++i) {
-        for (const int axis : {0, 1}) check("place of point ", i, p.VTPPoint(i, axis), 4080, 12527);
-        check_mode("mode of point ", i, p.VTPMode(i), Adds::Point);
-        check("width of point ", i, p.VTPWidth(i), 0, MaxVTPWidth);
-        const bool ends = i == p.VTPCount || p.VTPSegStart(i + 1);
-        check("end at point ", i, p.VTPSegEnd(i), ends, ends);
-        if (i == 1) check("start at point ", i, p.VTPSegStart(1), 1, 1);
-        if (i == p.VTPCount) check("start after point ", i, p.VTPSegStart(i + 1), 0, 0);
-    }
-    for (int k = 1; k <= p.KillCount; ++k) {
-        for (const int axis : {0, 1}) check("cleared cell ", k, p.KillCell(k, axis), 0, 32);
-        check_mode("code of cell ", k, p.KillType(k), Adds::ClearedCell);
-    }
+    for (int i = 1; i <= p.VTPCount; ++i)
+        if (!pair_within(p.VTPPoint, 4080, 12527, i) || !within(p.VTPWidth(i), 0, MaxVTPWidth) ||
+            !Find_mode(p.VTPMode(i), Adds::Point) ||
+            p.VTPSegEnd(i) != (i == p.VTPCount || p.VTPSegStart(i + 1)))
+            return "point " + std::to_string(i);
+    for (int k = 1; k <= p.KillCount; ++k)
+        if (!pair_within(p.KillCell, 0, 32, k) || !Find_mode(p.KillType(k), Adds::ClearedCell))
+            return "cleared cell " + std::to_string(k);
     for (int i = 1; i <= p.LWMCount; ++i) {
-        check_mode("type of polygon ", i, p.LWMType(i), Adds::Polygon);
-        if (p.LWMHeight(i) != ConformsHeight) check("height ", i, p.LWMHeight(i), 0, MaxLWMHeight);
-        for (const int axis : {0, 1}) {
-            check("cell of polygon ", i, p.LWMCell(i, axis), 0, 32);
-            for (int k = 1; k <= p.LWMPointCount(i); ++k)
-                check("vertex of polygon ", i, p.LWMPoint(i, k, axis), 0, LastCellUnit);
-        }
+        const int height = p.LWMHeight(i);
+        bool is_good = pair_within(p.LWMCell, 0, 32, i) && Find_mode(p.LWMType(i), Adds::Polygon) &&
+                       (height == ConformsHeight || within(height, 0, MaxLWMHeight));
+        for (int k = 1; k <= p.LWMPointCount(i); ++k)
+            is_good &= pair_within(p.LWMPoint, 0, LastCellUnit, i, k);
+        if (!is_good) return "polygon " + std::to_string(i);
     }
-    return fault;
+    const bool has_points = p.VTPCount > 0;
+    return has_points && (!p.VTPSegStart(1) || p.VTPSegStart(p.VTPCount + 1)) ? "a start" : "";
 }
 
 class RandomUser {

@@ -39,10 +39,8 @@ TEST_F(MapViewTest, TheImageComesUpScrollsTakesMouseAndKeysAndIsResized) {
     EXPECT_TRUE(begin.isVisible() && !viewport_.isVisible() && !across_.isVisible());
     Load(BMP_bytes(1000, 200));
     EXPECT_TRUE(!begin.isVisible() && viewport_.isVisible() && !down_.isVisible());
-    EXPECT_EQ(across_.geometry(), QRect(0, 200, 400, bar_));  // under the image
-    EXPECT_EQ(across_.maximum(), 600);
-
     Load(BMP_bytes(1000, 900));
+    EXPECT_TRUE(across_.maximum() == 600 && down_.isVisible());
     across_.setValue(150);
     const QPointF middle(200, 150);
     QWheelEvent turn(middle, view_.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, {},

@@ -1,11 +1,10 @@
 // A folder that is gone with the test.
 #pragma once
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 #include <string>
-#include <vector>
 
 namespace tidemark {
 
@@ -22,13 +21,8 @@ class TemporaryFolder {
     const std::string& Path() const { return path_; }
     std::string operator/(const std::string& name) const { return path_ + "/" + name; }
 
-    // The names in the folder, sorted.
-    std::vector<std::string> Names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path_))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
+    auto Number_of_files() const {
+        return std::distance(std::filesystem::directory_iterator(path_), {});
     }
 
   private:

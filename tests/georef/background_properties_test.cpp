@@ -35,8 +35,8 @@ TEST(CellCalculatorTest, PositionsGiveTheirCellAndBadTextsAreToldAndReset) {
         RecordingMessages messages;
         CalculatorTexts texts{given.at(0), given.at(1), given.at(2), given.at(3)};
         const auto cell = Calculate_cell(texts, messages);
-        if (cell) return messages.Said() + Int_text(cell->X) + ", " + Int_text(cell->Y);
-        return messages.Said() + "\n" + texts.Latitude + ", " + texts.Longitude;
+        if (cell) Report_cell(*cell, false, messages);
+        return messages.Said() + (cell ? "" : "\n" + texts.Latitude + ", " + texts.Longitude);
     });
 }
 

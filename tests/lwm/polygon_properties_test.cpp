@@ -12,29 +12,35 @@ using Coastline = std::vector<CellPoint>;
 
 class PolygonPropertiesTest : public testing::Test {
   protected:
-    // Across the cell between two rows, or from its west edge into it and back, or, in the topmost
-    // rows, from its west edge to its top. An end is a point on the edge, one beyond it, or both.
+    // A point on the cell's edge, one beyond it, or both.
+    void Add_end(Coastline& line, CellPoint at) {
+        const int kind = random_.Number(0, 2), out = random_.Number(1, 40);
+        const bool is_top = at.Y == 0;
+        if (kind != 1) line.push_back(at);
+        if (kind != 0)
+            line.push_back({is_top      ? int{at.X}
+                            : at.X == 0 ? -out
+                                        : 255 + out,
+                            at.Y - is_top * out});
+    }
+
+    // From the west edge between two rows across the cell, or into it and back, or, in the topmost
+    // rows, to the top edge.
     Coastline Line_between(int top, int bottom) {
         Coastline line;
-        const auto add_end = [&](int x, int y, int out_x, int out_y) {
-            const int kind = random_.Number(0, 2), out = random_.Number(1, 40);
-            if (kind != 1) line.push_back({x, y});
-            if (kind != 0) line.push_back({x + out * out_x, y + out * out_y});
-        };
-        const int kind = random_.Number(0, top < 10 ? 2 : 1);
-        const bool is_bay = kind == 1;
-        const int middle = is_bay ? (top + bottom) / 2 : bottom;
-        const int inner = random_.Number(2, 5);
+        const int kind = random_.Number(0, top < 10 ? 2 : 1), inner = random_.Number(2, 5);
+        const int middle = kind == 1 ? (top + bottom) / 2 : bottom;
+        Add_end(line, {0, random_.Number(top, middle)});
+        std::ranges::reverse(line);
+        const std::size_t begin = line.size();
         for (int k = 1; k <= inner; ++k)
             line.push_back(
                 {k * 230 / (inner + 1) + random_.Number(0, 18), random_.Number(top, middle)});
-        for (std::size_t k = line.size(); is_bay && k-- > 0;)
+        for (std::size_t k = line.size(); kind == 1 && k-- > begin;)
             line.push_back({line[k].X, random_.Number(middle + 5, bottom)});
-        if (kind == 0) add_end(LastCellUnit, random_.Number(top, bottom), 1, 0);
-        if (kind == 1) add_end(0, random_.Number(middle + 5, bottom), -1, 0);
-        if (kind == 2) add_end(line.back().X, 0, 0, -1);
-        std::ranges::reverse(line);
-        add_end(0, random_.Number(top, middle), -1, 0);
+        if (kind == 0) Add_end(line, {LastCellUnit, random_.Number(top, bottom)});
+        if (kind == 1) Add_end(line, {0, random_.Number(middle + 5, bottom)});
+        if (kind == 2) Add_end(line, {line.back().X, 0});
         return line;
     }
 
@@ -66,10 +72,6 @@ static std::int64_t Turn(CellPoint a, CellPoint b, CellPoint p) {
            (int{b.Y} - int{a.Y}) * (int{p.X} - int{a.X});
 }
 
-static bool Do_cross(CellPoint a, CellPoint b, CellPoint c, CellPoint d) {
-    return Turn(a, b, c) * Turn(a, b, d) < 0 && Turn(c, d, a) * Turn(c, d, b) < 0;
-}
-
 // The different pieces of the cell, each from its smallest vertex on and by its text.
 static std::map<std::string, Outline> Pieces_of(std::vector<Outline> candidates) {
     std::map<std::string, Outline> pieces;
@@ -92,10 +94,13 @@ static std::int64_t Area2(const Outline& piece) {
 static bool Is_simple(const Outline& piece) {
     const std::size_t n = piece.size();
     for (std::size_t i = 0; i < n; ++i)
-        for (std::size_t j = i + 1; j < n; ++j)
-            if (piece[i] == piece[j] ||
-                Do_cross(piece[i], piece[(i + 1) % n], piece[j], piece[(j + 1) % n]))
-                return false;
+        for (std::size_t j = i + 1; j < n; ++j) {
+            const CellPoint a = piece[i], b = piece[(i + 1) % n], c = piece[j],
+                            d = piece[(j + 1) % n];
+            const bool do_cross =
+                Turn(a, b, c) * Turn(a, b, d) < 0 && Turn(c, d, a) * Turn(c, d, b) < 0;
+            if (a == c || do_cross) return false;
+        }
     return true;
 }
 

@@ -53,12 +53,9 @@ TEST_F(AssemblerFilesTest, TheWholeFilesOfEveryModeAndOfLongRecords) {
     Expect_file(LWM_file_bytes(p), "long-polygons-LWM.asm");
 }
 
-TEST_F(AssemblerFilesTest, TheCompilerTakesBothFilesOfEveryProject) {
-    Project sample, largest = Largest_project();
-    Read_project(Source_file("sample/golden-gate.TDM"), sample);
-    largest.BGLOD8X = 767;
-    largest.BGLOD8Y = 511;
-    for (const Project& project : {sample, largest, Project()})
+TEST_F(AssemblerFilesTest, TheCompilerTakesBothFilesOfTheSampleAndOfTheLargestProject) {
+    Read_project(Source_file("sample/golden-gate.TDM"), p);
+    for (const Project& project : {p, Largest_project()})
         for (const std::string& bytes : {VTP_file_bytes(project), LWM_file_bytes(project)})
             EXPECT_FALSE(Check_assembler(bytes)) << Check_assembler(bytes)->What;
 }

@@ -30,9 +30,9 @@ TEST(HelpTest, ADocumentBelowTheCurrentFolderComesFirstAndWithoutABrowserItsName
 TEST(HelpTest, AboutHasElevenLines) {
     RecordingMessages messages;
     Show_about(messages);
-    const std::string about = messages.Said();
-    EXPECT_EQ(std::count(about.begin(), about.end(), '\n'), 10);
-    EXPECT_TRUE(about.starts_with("About Tidemark: Tidemark ( V 1.1 - 27th January 2003 )\n\n"));
+    EXPECT_EQ(std::ranges::count(messages.Shown[0].Text, '\n'), 10);
+    EXPECT_TRUE(
+        messages.Said().starts_with("About Tidemark: Tidemark ( V 1.1 - 27th January 2003"));
 }
 
 }  // namespace tidemark

@@ -42,7 +42,7 @@ TEST_F(FilesTest, ReplacingKeepsPermissionsAndLinksAndLeavesNothingBehind) {
     EXPECT_EQ(File_content(path_), "second");
     EXPECT_TRUE(std::filesystem::is_symlink(link));
     EXPECT_EQ(std::filesystem::status(path_).permissions(), std::filesystem::perms(0640));
-    EXPECT_EQ(folder_.Names(), (std::vector<std::string>{"link.TDM", "project.TDM"}));
+    EXPECT_EQ(folder_.Number_of_files(), 2);
 }
 
 TEST_F(FilesTest, AFailedReplacementLeavesTheOldFileAndSaysWhy) {
@@ -56,7 +56,7 @@ TEST_F(FilesTest, AFailedReplacementLeavesTheOldFileAndSaysWhy) {
     ASSERT_FALSE(result);
     EXPECT_EQ(result.Reason(), "File too large");
     EXPECT_EQ(File_content(path_), "old");
-    EXPECT_EQ(folder_.Names(), std::vector<std::string>{"project.TDM"});
+    EXPECT_EQ(folder_.Number_of_files(), 1);
 
     EXPECT_EQ(files_.Replace(folder_ / "none/x.TDM", "x").Reason(), "No such file or directory");
     EXPECT_EQ(files_.Replace(folder_.Path(), "x").Reason(), "Is a directory");
