@@ -74,7 +74,7 @@ TidemarkMain::TidemarkMain()
     : project_(std::make_unique<Project>()),
       messages_(*this),
       choosers_(*this),
-      platform_{messages_, choosers_, files_, clock_, programs_, From_qt(QDir::currentPath())},
+      platform_{messages_, choosers_, files_, clock_, programs_, Path_from_qt(QDir::currentPath())},
       map_(new MapView(*project_, messages_, this)),
       status_(new Status(*project_, messages_, this)) {
     setObjectName("TidemarkMain");
@@ -157,7 +157,7 @@ void TidemarkMain::FileOpen_Click() {
 }
 
 void TidemarkMain::Open(const QString& path) {
-    const std::string chosen = From_qt(path);
+    const std::string chosen = Path_from_qt(path);
     const OpenResult result = Open_project(chosen, *project_, platform_);
     statusBar()->showMessage(To_qt(result.Status));
     if (!result.Opened) return;
@@ -231,8 +231,8 @@ void TidemarkMain::Tutorial_Click() {
 }
 
 void TidemarkMain::Show_help_document(const HelpDocument& document) {
-    const HelpPlaces places{From_qt(QDir::currentPath()),
-                            From_qt(QCoreApplication::applicationDirPath())};
+    const HelpPlaces places{Path_from_qt(QDir::currentPath()),
+                            Path_from_qt(QCoreApplication::applicationDirPath())};
     Show_help(document, places, messages_, files_, programs_);
     Refresh_Graphics();
 }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -12,8 +12,11 @@ namespace tidemark {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tidemark-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
+        std::random_device random;
+        do {
+            const std::string name = "tidemark-" + std::to_string(random());
+            path_ = (std::filesystem::temp_directory_path() / name).string();
+        } while (!std::filesystem::create_directory(path_));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
