@@ -56,7 +56,7 @@ TEST_F(PosixProgramsTest, WhatCannotBeStartedIsReported) {
 }
 
 TEST_F(PosixProgramsTest, AWindowsProgramGoesThroughWineAndADocumentThroughTheDesktopsOpener) {
-    const Variable path("PATH", folder_.Path() + ":/usr/bin:/bin");
+    const Variable without_wine("PATH", folder_.Path());
     const std::string compiler = folder_ / "BGLC.EXE";
     Write_program(compiler, "MZ\x90");
     const Command command{compiler, {"/a b/Skye.asm", "-x"}, folder_.Path()};
@@ -64,6 +64,7 @@ TEST_F(PosixProgramsTest, AWindowsProgramGoesThroughWineAndADocumentThroughTheDe
               compiler +
                   " is a Windows program, which this system runs through wine.\n"
                   "Please install wine and try again.");
+    const Variable path("PATH", folder_.Path() + ":/usr/bin:/bin");
     Write_recorder(folder_ / "wine", record_);
     EXPECT_TRUE(programs_.Start(command).Program);
     EXPECT_EQ(Recorded(), folder_.Path() + "\n" + compiler + "\nZ:\\a b\\Skye.asm\n-x\n");
