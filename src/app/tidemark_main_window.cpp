@@ -163,6 +163,7 @@ void TidemarkMain::Open(const QString& path) {
     if (!result.Opened) return;
 
     Show_title(chosen);
+    map_->Set_project_folder(Folder_part(chosen));
     if (project_->BackgroundLoaded) map_->Load_Background();
     Entry("LWMsave").setEnabled(project_->PrefsSet);
     Entry("VTPsave").setEnabled(project_->PrefsSet);

@@ -1,5 +1,6 @@
 #include "canvas/background.h"
 
+#include "model/path_text.h"
 #include "model/project_file.h"
 
 namespace tidemark {
@@ -38,10 +39,12 @@ bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
     return true;
 }
 
-void Load_background_file(Project& project, Messages& messages, const ShowImage& show_image) {
+void Load_background_file(Project& project, Messages& messages, const std::string& project_folder,
+                          const ShowImage& show_image) {
     project.BackgroundLoaded = false;
-    if (!show_image(project.BackgroundFile)) {
-        Warn(messages, "An error occurred when trying to load " + project.BackgroundFile);
+    const std::string& name = project.BackgroundFile;
+    if (!show_image(name) && (Is_full_path(name) || !show_image(project_folder + name))) {
+        Warn(messages, "An error occurred when trying to load " + name);
         return;
     }
     project.BackgroundLoaded = true;

@@ -76,7 +76,7 @@ MapView::MapView(Project& project, Messages& messages, QWidget* parent)
 }
 
 void MapView::Load_Background() {
-    Load_background_file(project_, messages_,
+    Load_background_file(project_, messages_, project_folder_,
                          [this](const std::string& path) { return Show_image(path); });
     if (project_.BackgroundLoaded) Q_EMIT Background_shown();
 }

@@ -29,6 +29,10 @@ class MapView : public QWidget {
     // graphics drawn afterwards.
     void Load_Background();
 
+    // Where a BackgroundFile that is no full path may lie: the folder of the opened project, with
+    // its last separator.
+    void Set_project_folder(std::string folder) { project_folder_ = std::move(folder); }
+
     // The image's size in pixels; 0 x 0 before the first one.
     QSize Canvas_size() const { return Picture2_->size(); }
 
@@ -68,6 +72,7 @@ class MapView : public QWidget {
     MapCanvas* Picture2_;  // the canvas
     QScrollBar *HScroll1_, *VScroll1_;
     FileState shown_file_;
+    std::string project_folder_;
 };
 
 }  // namespace tidemark

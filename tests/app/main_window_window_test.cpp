@@ -121,6 +121,18 @@ TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpened
     EXPECT_EQ(window_.windowTitle(), "Tidemark - MOVED.TDM");
 }
 
+TEST_F(MainWindowTest, AProjectThatNamesItsPictureWithoutAFolderOpensFromAnyFolder) {
+    Project p;
+    p.BackgroundFile = "bay.bmp";
+    p.BackgroundLoaded = true;
+    Write_file(folder_ / "bay.tdm", Project_bytes(p, "then"));
+    QImage(30, 20, QImage::Format_RGB32).save(Path("bay.bmp"));
+    window_.Open(Path("bay.tdm"));
+    EXPECT_TRUE(window_.Current_project().BackgroundLoaded);
+    EXPECT_EQ(window_.Current_project().BackgroundFile, "bay.bmp");
+    EXPECT_EQ(Control<MapView>(window_, "MapView").Canvas_size(), QSize(30, 20));
+}
+
 TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndARefusedOneLeavesTheProject) {
     const auto drop = [this](const QList<QUrl>& urls) {
         QMimeData data;

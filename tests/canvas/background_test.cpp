@@ -40,5 +40,27 @@ TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     EXPECT_EQ(fake.choosers.Shown[0].InitialFolder, "/maps");
 }
 
+TEST(BackgroundTest, ANameThatIsNoFullPathIsAlsoLookedForBesideTheProject) {
+    struct Case {
+        std::string Name;
+        std::vector<std::string> Tried;  // nothing can be shown
+    };
+    for (const auto& [name, tried] : {Case{"bay.gif", {"bay.gif", "/p/bay.gif"}},
+                                      {"/m/bay.gif", {"/m/bay.gif"}},
+                                      {"C:\\bay.gif", {"C:\\bay.gif"}}}) {
+        Project project;
+        project.BackgroundFile = name;
+        RecordingMessages messages;
+        std::vector<std::string> asked;
+        Load_background_file(project, messages, "/p/", [&](const std::string& path) {
+            asked.push_back(path);
+            return false;
+        });
+        EXPECT_EQ(asked, tried);
+        EXPECT_EQ(messages.Texts(), std::vector{"An error occurred when trying to load " + name});
+        EXPECT_EQ(project.BackgroundFile, name);
+    }
+}
+
 }  // namespace
 }  // namespace tidemark
