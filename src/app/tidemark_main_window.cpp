@@ -116,7 +116,11 @@ void TidemarkMain::Wire_map() {
 }
 
 void TidemarkMain::Wire_status_panel() {
-    connect(status_, &Status::Resized, this, &TidemarkMain::Status_Resize);
+    connect(status_, &Status::Resized, this, [this] {
+        // Afterwards, as the map does it.
+        if (project_->BackgroundLoaded)
+            QMetaObject::invokeMethod(this, &TidemarkMain::Status_Resize, Qt::QueuedConnection);
+    });
     connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
     const auto redraw = &TidemarkMain::Refresh_Graphics;
     connect(status_, &Status::RefreshButton_Click, this, redraw);

@@ -62,6 +62,7 @@ class MapView : public QWidget {
     bool Decode(const QString& path);
     std::optional<ViewLayout> Layout_for(QSize image) const;
     void Lay_out(const ViewLayout& layout);
+    void Form_Resize();
     void HScroll1_Change(int value);
     void VScroll1_Change(int value);
 
