@@ -28,6 +28,7 @@ bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
     chooser.Name = "LoadBMPdialog";
     chooser.Title = "Tidemark - Open background image";
     chooser.Filter = "*.BMP;*.GIF;*.JPG";
+    chooser.FileName = project.BackgroundFile;
     chooser.InitialFolder = start_folder;
     const auto path = choosers.Choose(chooser);
     if (!path) return false;

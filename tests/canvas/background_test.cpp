@@ -11,6 +11,7 @@ namespace {
 
 TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     Project project = Project_of_all_values();
+    project.BackgroundFile = "/maps/old.bmp";
     const Project before = project;
     FakePlatform fake;
     const auto choose = [&] {
@@ -38,6 +39,7 @@ TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     EXPECT_EQ(fake.messages.Shown.size(), 3U);
     EXPECT_EQ(project.BackgroundFile, "/maps/bay.gif");
     EXPECT_EQ(fake.choosers.Shown[0].InitialFolder, "/maps");
+    EXPECT_EQ(fake.choosers.Shown[0].FileName, before.BackgroundFile);
 }
 
 TEST(BackgroundTest, ANameThatIsNoFullPathIsAlsoLookedForBesideTheProject) {
