@@ -16,14 +16,16 @@ void Clear_project(Project& p) {
 
 }  // namespace
 
+bool May_clear_project(const Project& project, Messages& messages) {
+    return !project.DataChanged ||
+           Ask(messages, "Tidemark - Load warning",
+               "This will clear all of your current data - do you wish to continue?");
+}
+
 bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
                        const std::string& start_folder) {
-    if (project.DataChanged) {
-        if (!Ask(messages, "Tidemark - Load warning",
-                 "This will clear all of your current data - do you wish to continue?"))
-            return false;
-        Clear_project(project);
-    }
+    if (!May_clear_project(project, messages)) return false;
+    if (project.DataChanged) Clear_project(project);
     FileChooser chooser;
     chooser.Name = "LoadBMPdialog";
     chooser.Title = "Tidemark - Open background image";

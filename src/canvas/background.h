@@ -10,6 +10,9 @@
 
 namespace tidemark {
 
+// Whether what the project holds may go: asks while there are unsaved changes.
+bool May_clear_project(const Project& project, Messages& messages);
+
 // Asks for a background image; its path becomes BackgroundFile. Unsaved changes are cleared first
 // when the user agrees: the georeference and all points, polygons and cleared cells. False when the
 // user answers No or cancels, or when the path cannot stand in a project file (Warn); what was

@@ -157,6 +157,18 @@ TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndARefusedOneLeavesTheProject) {
               "bad.tdm, line 6: BGLOD8X does not fit -32768..32767: 70000");
     EXPECT_EQ(window_.windowTitle(), "Tidemark - GOOD.TDM");
     EXPECT_TRUE(window_.Current_project() == before);
+
+    Press(Control<ListBox>(window_, "VTPlistbox"), Qt::Key_Down);
+    plan_.Then([&](QWidget& dialog) {
+        EXPECT_FALSE(drop({good}));  // not under a dialog
+        Press(dialog, Qt::Key_Escape);
+    });
+    Click(Control<QPushButton>(window_, "EditButton"));
+    Click(Control<QPushButton>(window_, "ReverseButton"));
+    plan_.Then_answer(QMessageBox::No);
+    EXPECT_TRUE(drop({good}));
+    EXPECT_EQ(plan_.Messages().size(), 1U);
+    EXPECT_FALSE(window_.Current_project() == before);  // still reversed
 }
 
 TEST_F(MainWindowTest, ABoxShowsItsMessageAsItIsAndEscapeIsNo) {
