@@ -1,5 +1,6 @@
 #include "app/tidemark_main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QTimer>
 
 #include "app/project_commands.h"
+#include "canvas/background.h"
 #include "model/path_text.h"
 #include "output/assembler_files.h"
 #include "output/preferences_window.h"
@@ -116,7 +118,11 @@ void TidemarkMain::Wire_map() {
 }
 
 void TidemarkMain::Wire_status_panel() {
-    connect(status_, &Status::Resized, this, &TidemarkMain::Status_Resize);
+    connect(status_, &Status::Resized, this, [this] {
+        // Afterwards, as the map does it.
+        if (project_->BackgroundLoaded)
+            QMetaObject::invokeMethod(this, &TidemarkMain::Status_Resize, Qt::QueuedConnection);
+    });
     connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
     const auto redraw = &TidemarkMain::Refresh_Graphics;
     connect(status_, &Status::RefreshButton_Click, this, redraw);
@@ -163,6 +169,7 @@ void TidemarkMain::Open(const QString& path) {
     if (!result.Opened) return;
 
     Show_title(chosen);
+    map_->Set_project_folder(Folder_part(chosen));
     if (project_->BackgroundLoaded) map_->Load_Background();
     Entry("LWMsave").setEnabled(project_->PrefsSet);
     Entry("VTPsave").setEnabled(project_->PrefsSet);
@@ -257,8 +264,10 @@ void TidemarkMain::closeEvent(QCloseEvent* event) {
 
 namespace {
 
-// The one project file that is being dragged; empty for anything else.
+// The one project file that is being dragged; empty for anything else, and while a dialog works on
+// the project that is there: being modal does not keep a drop away.
 QString Dragged_project(const QMimeData& data) {
+    if (QApplication::activeModalWidget()) return {};
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !urls.first().isLocalFile()) return {};
     const QString path = urls.first().toLocalFile();
@@ -276,7 +285,10 @@ void TidemarkMain::dropEvent(QDropEvent* event) {
     if (path.isEmpty()) return;
     event->acceptProposedAction();
     // Later, so that the program it was dragged from does not wait for the boxes that may come up.
-    QTimer::singleShot(0, this, [this, path] { Open(path); });
+    // A slip of the hand on the way to another window is not a wish to lose anything.
+    QTimer::singleShot(0, this, [this, path] {
+        if (May_clear_project(*project_, messages_)) Open(path);
+    });
 }
 
 }  // namespace tidemark

@@ -76,7 +76,7 @@ MapView::MapView(Project& project, Messages& messages, QWidget* parent)
 }
 
 void MapView::Load_Background() {
-    Load_background_file(project_, messages_,
+    Load_background_file(project_, messages_, project_folder_,
                          [this](const std::string& path) { return Show_image(path); });
     if (project_.BackgroundLoaded) Q_EMIT Background_shown();
 }
@@ -129,6 +129,12 @@ void MapView::VScroll1_Change(int value) {
 
 void MapView::resizeEvent(QResizeEvent*) {
     BeginLabel_->setGeometry(rect());
+    // Afterwards: a box that comes up must not wait for its answer in the middle of a resize.
+    if (project_.BackgroundLoaded)
+        QMetaObject::invokeMethod(this, &MapView::Form_Resize, Qt::QueuedConnection);
+}
+
+void MapView::Form_Resize() {
     if (!project_.BackgroundLoaded) return;
     Load_Background();
     Q_EMIT Graphics_outdated();

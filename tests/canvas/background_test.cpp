@@ -11,6 +11,7 @@ namespace {
 
 TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     Project project = Project_of_all_values();
+    project.BackgroundFile = "/maps/old.bmp";
     const Project before = project;
     FakePlatform fake;
     const auto choose = [&] {
@@ -38,6 +39,29 @@ TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     EXPECT_EQ(fake.messages.Shown.size(), 3U);
     EXPECT_EQ(project.BackgroundFile, "/maps/bay.gif");
     EXPECT_EQ(fake.choosers.Shown[0].InitialFolder, "/maps");
+    EXPECT_EQ(fake.choosers.Shown[0].FileName, before.BackgroundFile);
+}
+
+TEST(BackgroundTest, ANameThatIsNoFullPathIsAlsoLookedForBesideTheProject) {
+    struct Case {
+        std::string Name;
+        std::vector<std::string> Tried;  // nothing can be shown
+    };
+    for (const auto& [name, tried] : {Case{"bay.gif", {"bay.gif", "/p/bay.gif"}},
+                                      {"/m/bay.gif", {"/m/bay.gif"}},
+                                      {"C:\\bay.gif", {"C:\\bay.gif"}}}) {
+        Project project;
+        project.BackgroundFile = name;
+        RecordingMessages messages;
+        std::vector<std::string> asked;
+        Load_background_file(project, messages, "/p/", [&](const std::string& path) {
+            asked.push_back(path);
+            return false;
+        });
+        EXPECT_EQ(asked, tried);
+        EXPECT_EQ(messages.Texts(), std::vector{"An error occurred when trying to load " + name});
+        EXPECT_EQ(project.BackgroundFile, name);
+    }
 }
 
 }  // namespace

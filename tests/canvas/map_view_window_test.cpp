@@ -29,6 +29,12 @@ class MapViewTest : public testing::Test {
         view_.Load_Background();
     }
 
+    void Resize(int width, int height) {
+        view_.resize(width + bar_, height + bar_);
+        EXPECT_EQ(messages_.Shown.size(), 0U);  // not in the middle of it
+        QCoreApplication::processEvents();
+    }
+
     // What the viewport shows now.
     QImage Shown() { return viewport_.grab().toImage(); }
 
@@ -86,7 +92,7 @@ TEST_F(MapViewTest, AResizeGoesBackToTheCornerAndDecodesOnlyAChangedFile) {
     file.setFileTime(before, QFileDevice::FileModificationTime);
 
     QSignalSpy outdated(&view_, &MapView::Graphics_outdated);
-    view_.resize(500 + bar_, 400 + bar_);
+    Resize(500, 400);
     EXPECT_EQ(outdated.count(), 1);
     EXPECT_TRUE(project_.BackgroundLoaded);
     EXPECT_EQ(canvas_.pos(), QPoint(0, 0));
@@ -94,9 +100,10 @@ TEST_F(MapViewTest, AResizeGoesBackToTheCornerAndDecodesOnlyAChangedFile) {
     EXPECT_EQ(viewport_.size(), QSize(500, 400));
 
     file.setFileTime(before.addSecs(1), QFileDevice::FileModificationTime);
-    view_.resize(450 + bar_, 400 + bar_);
+    Resize(450, 400);
     EXPECT_FALSE(project_.BackgroundLoaded);
-    view_.resize(400 + bar_, 400 + bar_);  // resizes ask no more
+    view_.resize(400 + bar_, 400 + bar_);
+    QCoreApplication::processEvents();  // resizes ask no more
     EXPECT_EQ(messages_.Shown.size(), 1U);
     EXPECT_EQ(viewport_.size(), QSize(500, 400));
 }
