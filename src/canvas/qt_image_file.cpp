@@ -143,6 +143,15 @@ constexpr std::array<ImageKind, 3> ImageKinds{{
     {"jpeg", "\xFF\xD8\xFF", Is_whole_JPEG},
 }};
 
+// A pixel may name a colour that the file's table does not hold, which Qt would look up behind the
+// table. Such a colour is black.
+void Complete_palette(QImage& image) {
+    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed) return;
+    QList<QRgb> colours = image.colorTable();
+    colours.resize(qsizetype{1} << image.depth(), qRgb(0, 0, 0));
+    image.setColorTable(colours);
+}
+
 }  // namespace
 
 QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
@@ -160,6 +169,7 @@ QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
     QImage image = reader.read();
     if (image.isNull() || !fits(image.size())) return {};
     if (kind->LosesPalette && image.depth() == 32) image = With_palette(image);
+    Complete_palette(image);
     image.setDevicePixelRatio(1);  // a name such as "map@2x.bmp" would make it another
     return image;
 }
