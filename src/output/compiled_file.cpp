@@ -38,7 +38,10 @@ std::optional<std::string> Await_compiled_file(const std::string& assembler_file
         const auto size_now = file ? files.Size(*file) : std::nullopt;
         if (size_now != size) quiet = 0;
         size = size_now;
-        if (quiet >= (file ? limits.Complete : limits.GivenUp)) return file;
+        if (quiet >= (file ? limits.Complete : limits.GivenUp)) {
+            patience.Over();
+            return file;
+        }
         patience.Wait(what_for, TimeBetweenLooks);
     }
 }
