@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -124,6 +125,9 @@ void TidemarkMain::Wire_status_panel() {
             QMetaObject::invokeMethod(this, &TidemarkMain::Status_Resize, Qt::QueuedConnection);
     });
     connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
+    const auto change_window = [](QWidget* from) { return new QShortcut(Qt::Key_F6, from); };
+    connect(change_window(this), &QShortcut::activated, this, &TidemarkMain::ShowStatus_Click);
+    connect(change_window(status_), &QShortcut::activated, this, &QWidget::activateWindow);
     const auto redraw = &TidemarkMain::Refresh_Graphics;
     connect(status_, &Status::RefreshButton_Click, this, redraw);
     connect(&status_->VTP(), &VTPFrame::Graphics_outdated, this, redraw);
@@ -226,6 +230,7 @@ void TidemarkMain::OutputPreferences_Click() {
 void TidemarkMain::ShowStatus_Click() {
     status_->show();
     status_->raise();
+    status_->activateWindow();
     Refresh_Graphics();
 }
 

@@ -35,6 +35,7 @@ QScrollBar* Scroll_bar(const char* name, const char* spoken, Qt::Orientation ori
     bar->setObjectName(name);
     bar->setAccessibleName(spoken);
     bar->setSingleStep(ScrollStep);
+    bar->setFocusPolicy(Qt::TabFocus);
     bar->hide();
     return bar;
 }
@@ -68,6 +69,8 @@ MapView::MapView(Project& project, Messages& messages, QWidget* parent)
     Picture1_->hide();
     Picture2_->setObjectName("Picture2");
     Picture2_->setAccessibleName("Map");
+    setTabOrder(Picture2_, VScroll1_);
+    setTabOrder(VScroll1_, HScroll1_);
     connect(HScroll1_, &QScrollBar::valueChanged, this, &MapView::HScroll1_Change);
     connect(VScroll1_, &QScrollBar::valueChanged, this, &MapView::VScroll1_Change);
     connect(Picture2_, &MapCanvas::Mouse_moved, this, &MapView::Picture2_MouseMove);

@@ -152,6 +152,12 @@ void Complete_palette(QImage& image) {
     image.setColorTable(colours);
 }
 
+// In whole MiB, at 32 bits a pixel. A damaged file that names a larger size further on gets no more.
+int Size_in_memory(QSize size) {
+    constexpr qint64 bytes_a_pixel = 4, MiB = 1 << 20;
+    return static_cast<int>(bytes_a_pixel * size.width() * size.height() / MiB) + 1;
+}
+
 }  // namespace
 
 QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
@@ -160,12 +166,12 @@ QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
         ImageKinds, [&](const ImageKind& k) { return begin.startsWith(k.Signature); });
     if (kind == ImageKinds.end() || !kind->Is_whole(file) || !file.seek(0)) return {};
 
-    QImageReader::setAllocationLimit(0);  // the size is judged here
     QImageReader reader(&file, kind->Format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(false);
     const QSize claimed = reader.size();
     if (claimed.isEmpty() || !fits(claimed)) return {};
+    QImageReader::setAllocationLimit(Size_in_memory(claimed));
     QImage image = reader.read();
     if (image.isNull() || !fits(image.size())) return {};
     if (kind->LosesPalette && image.depth() == 32) image = With_palette(image);
