@@ -52,6 +52,9 @@ void Press(QWidget& control, Qt::Key key) {
 void Click_at(QWidget& control, QPoint place, Qt::MouseButton button) {
     QTest::mouseMove(&control, place + QPoint(1, 1));
     QTest::mouseMove(&control, place);
+    // A real pointer is on its way there; what it tells of that must not come after the click.
+    constexpr int arriving = 100;  // milliseconds
+    if (QGuiApplication::platformName() != "offscreen") QTest::qWait(arriving);
     QTest::mouseClick(&control, button, {}, place);
 }
 

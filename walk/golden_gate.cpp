@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include "walk/driver.h"
+#include "walk/picture_strip.h"
 
 namespace tidemark {
 
@@ -37,6 +38,12 @@ void Save_picture(const QList<QWidget*>& windows, const QString& name) {
     Check(Picture_of(windows).save(name + ".png"), name + ".png could not be saved");
 }
 
+// Over one that an earlier walk has left.
+void Copy_file(const QString& from, const QString& to) {
+    QFile::remove(to);
+    Check(QFile::copy(from, to), to + " could not be copied");
+}
+
 class Walk {
   public:
     explicit Walk(TidemarkMain& window)
@@ -44,6 +51,7 @@ class Walk {
           panel_(Control<Status>(window, "Status")),
           canvas_(Control<QWidget>(window, "Picture2")) {}
 
+    void Start_empty() { Take_picture("empty"); }
     void Load_the_map();
     void Draw_the_shore();
     void Put_its_ends_on_the_edges();
@@ -52,7 +60,9 @@ class Walk {
     void Clear_what_is_there();
     void Save_the_project();
     void Write_both_files();
+    void Compile_and_copy(const QString& compiler);
     void Open_the_sample();
+    void Exit_through_the_question();
 
   private:
     const Project& Now() const { return window_.Current_project(); }
@@ -65,6 +75,7 @@ class Walk {
     void Click_map(const MapPlace& place, Qt::MouseButton button = Qt::LeftButton);
     void Move_point(const MapPlace& near, int in_cell_x, const QString& picture);
     void Save_file(const char* entry, const QString& name);
+    void Save_and_compile(const char* entry, const QString& name, const QString& picture);
 
     TidemarkMain& window_;
     Status& panel_;
@@ -186,10 +197,11 @@ void Walk::Save_the_project() {
     Check(window_.windowTitle() == "Tidemark - NORTH-SHORE.TDM", "the project was not saved");
 }
 
-// The scenery compiler is not there, which a warning says after each file.
+// Where the scenery compiler is not there, a warning says so after each file.
 void Walk::Save_file(const char* entry, const QString& name) {
     Plan plan;
-    plan.Then_answer().Then_answer();
+    plan.Then_answer();
+    if (!QFile::exists("BGLC.EXE")) plan.Then_answer();
     Choose_entry(window_, "Output", entry);
     plan.Finish();
     Check(plan.Messages().at(0).endsWith("file saved OK"), name + " was not saved");
@@ -210,6 +222,35 @@ void Walk::Write_both_files() {
     Save_file("LWMsave", "north-shore-LWM.asm");
 }
 
+void Walk::Compile_and_copy(const QString& compiler) {
+    Copy_file(compiler, "BGLC.EXE");
+    QDir::current().mkdir("scenery");
+    Plan plan;
+    plan.Then([](QWidget& preferences) {
+        for (const char* const check : {"Check2", "Check4", "FScopy"})
+            Click(Control<QCheckBox>(preferences, check));
+        Type(Control<QLineEdit>(preferences, "FSname"), QDir::current().filePath("scenery"));
+        Save_picture({&preferences}, "compiling");
+        Click(Control<QPushButton>(preferences, "OKbutton"));
+    });
+    Choose_entry(window_, "Output", "OutputPreferences");
+    plan.Finish();
+    Save_and_compile("VTPsave", "north-shore-VTP", "");
+    Save_and_compile("LWMsave", "north-shore-LWM", "copied");
+}
+
+void Walk::Save_and_compile(const char* entry, const QString& name, const QString& picture) {
+    Plan plan;
+    plan.Then([&](QWidget& box) {
+        if (!picture.isEmpty()) Save_picture({&window_, &panel_, &box}, picture);
+        Click(*qobject_cast<QMessageBox*>(&box)->button(QMessageBox::Ok));
+    });
+    Choose_entry(window_, "Output", entry);
+    plan.Finish();
+    const QString copy = "scenery/" + name + ".BGL";
+    Check(QFile(copy).size() > QFile(name + ".asm").size(), copy + " is not the compiled file");
+}
+
 void Walk::Open_the_sample() {
     Plan plan;
     plan.Then_choose(QDir::current().absoluteFilePath("golden-gate.TDM"));
@@ -221,19 +262,31 @@ void Walk::Open_the_sample() {
     Save_file("VTPsave", "golden-gate-VTP.asm");
 }
 
-void Copy_sample(const QString& from) {
-    for (const char* const name : {"golden-gate.TDM", "golden-gate.jpg"}) {
-        QFile::remove(name);
-        Check(QFile::copy(from + "/" + name, name), QString("%1 could not be copied").arg(name));
-    }
+// Each point may be the one too many, so Exit asks; No goes back to the map.
+void Walk::Exit_through_the_question() {
+    Click_map({22, 14, 128, 128});
+    Plan plan;
+    plan.Then([&](QWidget& question) {
+        Save_picture({&window_, &panel_, &question}, "exit-question");
+        Click(*qobject_cast<QMessageBox*>(&question)->button(QMessageBox::No));
+    });
+    Choose_entry(window_, "FileMenu", "FileExit");
+    Check(window_.isVisible(), "No did not stay");
+    plan.Then_answer(QMessageBox::Yes);
+    Choose_entry(window_, "FileMenu", "FileExit");
+    plan.Finish();
+    Check(!window_.isVisible() && !panel_.isVisible(), "Yes did not end the program");
 }
 
 }  // namespace
 
 void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     QDir::setCurrent(folders.Out);
-    Copy_sample(folders.Sample);
+    QFile::remove("BGLC.EXE");  // of an earlier walk
+    for (const char* const name : {"golden-gate.TDM", "golden-gate.jpg"})
+        Copy_file(folders.Sample + "/" + name, name);
     Walk walk(window);
+    walk.Start_empty();
     walk.Load_the_map();
     walk.Draw_the_shore();
     walk.Put_its_ends_on_the_edges();
@@ -242,7 +295,13 @@ void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     walk.Clear_what_is_there();
     walk.Save_the_project();
     walk.Write_both_files();
+    walk.Compile_and_copy(folders.Compiler);
     walk.Open_the_sample();
+    walk.Exit_through_the_question();
+    Save_picture_strip({"empty.png", "background-properties.png", "cell-calculator.png",
+                        "drawing.png", "edit-point.png", "polygons.png", "preferences.png",
+                        "compiling.png", "copied.png", "main-window.png", "exit-question.png"},
+                       "strip.png");
 }
 
 }  // namespace tidemark

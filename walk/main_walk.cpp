@@ -19,8 +19,8 @@ int main(int argc, char** argv) {
         tidemark::TidemarkMain window;
         window.show();
         if (!QTest::qWaitForWindowExposed(&window)) throw std::runtime_error("no window came up");
-        tidemark::Play_golden_gate(window,
-                                   {TIDEMARK_SAMPLE_DIR, QFileInfo(argv[1]).absoluteFilePath()});
+        tidemark::Play_golden_gate(
+            window, {TIDEMARK_SAMPLE_DIR, STANDIN_COMPILER, QFileInfo(argv[1]).absoluteFilePath()});
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "app/asm_companion.h"
+#include "platform/arguments.h"
 
 namespace {
 
@@ -24,8 +25,14 @@ int main(int argc, char** argv) {
                                   {"help", no_argument, nullptr, 'h'},
                                   {"version", no_argument, nullptr, 'v'},
                                   {}};
+    std::vector<std::string> arguments = tidemark::Console_arguments(argc, argv);
+    std::vector<char*> words;  // as getopt wants them, which puts the options first
+    for (std::string& argument : arguments) words.push_back(argument.data());
+    words.push_back(nullptr);
+    const int count = static_cast<int>(arguments.size());
+
     tidemark::CompanionTask task;
-    for (int found; (found = getopt_long(argc, argv, "", options, nullptr)) != -1;) {
+    for (int found; (found = getopt_long(count, words.data(), "", options, nullptr)) != -1;) {
         switch (found) {
             case 'o':
                 task.OutputFolder = optarg;
@@ -41,7 +48,7 @@ int main(int argc, char** argv) {
                 return ExitUsage;
         }
     }
-    task.Projects.assign(argv + optind, argv + argc);
+    task.Projects.assign(words.begin() + optind, words.begin() + count);
     if (task.Projects.empty()) {
         std::cerr << Usage;
         return ExitUsage;

@@ -1,5 +1,6 @@
 #include "app/tidemark_main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
@@ -8,10 +9,12 @@
 #include <QMimeData>
 #include <QScopeGuard>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 
 #include "app/project_commands.h"
+#include "canvas/background.h"
 #include "model/path_text.h"
 #include "output/assembler_files.h"
 #include "output/preferences_window.h"
@@ -74,7 +77,7 @@ TidemarkMain::TidemarkMain()
     : project_(std::make_unique<Project>()),
       messages_(*this),
       choosers_(*this),
-      platform_{messages_, choosers_, files_, clock_, programs_, From_qt(QDir::currentPath())},
+      platform_{messages_, choosers_, files_, clock_, programs_, Path_from_qt(QDir::currentPath())},
       map_(new MapView(*project_, messages_, this)),
       status_(new Status(*project_, messages_, this)) {
     setObjectName("TidemarkMain");
@@ -116,8 +119,15 @@ void TidemarkMain::Wire_map() {
 }
 
 void TidemarkMain::Wire_status_panel() {
-    connect(status_, &Status::Resized, this, &TidemarkMain::Status_Resize);
+    connect(status_, &Status::Resized, this, [this] {
+        // Afterwards, as the map does it.
+        if (project_->BackgroundLoaded)
+            QMetaObject::invokeMethod(this, &TidemarkMain::Status_Resize, Qt::QueuedConnection);
+    });
     connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
+    const auto change_window = [](QWidget* from) { return new QShortcut(Qt::Key_F6, from); };
+    connect(change_window(this), &QShortcut::activated, this, &TidemarkMain::ShowStatus_Click);
+    connect(change_window(status_), &QShortcut::activated, this, &QWidget::activateWindow);
     const auto redraw = &TidemarkMain::Refresh_Graphics;
     connect(status_, &Status::RefreshButton_Click, this, redraw);
     connect(&status_->VTP(), &VTPFrame::Graphics_outdated, this, redraw);
@@ -157,12 +167,13 @@ void TidemarkMain::FileOpen_Click() {
 }
 
 void TidemarkMain::Open(const QString& path) {
-    const std::string chosen = From_qt(path);
+    const std::string chosen = Path_from_qt(path);
     const OpenResult result = Open_project(chosen, *project_, platform_);
     statusBar()->showMessage(To_qt(result.Status));
     if (!result.Opened) return;
 
     Show_title(chosen);
+    map_->Set_project_folder(Folder_part(chosen));
     if (project_->BackgroundLoaded) map_->Load_Background();
     Entry("LWMsave").setEnabled(project_->PrefsSet);
     Entry("VTPsave").setEnabled(project_->PrefsSet);
@@ -219,6 +230,7 @@ void TidemarkMain::OutputPreferences_Click() {
 void TidemarkMain::ShowStatus_Click() {
     status_->show();
     status_->raise();
+    status_->activateWindow();
     Refresh_Graphics();
 }
 
@@ -231,8 +243,8 @@ void TidemarkMain::Tutorial_Click() {
 }
 
 void TidemarkMain::Show_help_document(const HelpDocument& document) {
-    const HelpPlaces places{From_qt(QDir::currentPath()),
-                            From_qt(QCoreApplication::applicationDirPath())};
+    const HelpPlaces places{Path_from_qt(QDir::currentPath()),
+                            Path_from_qt(QCoreApplication::applicationDirPath())};
     Show_help(document, places, messages_, files_, programs_);
     Refresh_Graphics();
 }
@@ -257,8 +269,10 @@ void TidemarkMain::closeEvent(QCloseEvent* event) {
 
 namespace {
 
-// The one project file that is being dragged; empty for anything else.
+// The one project file that is being dragged; empty for anything else, and while a dialog works on
+// the project that is there: being modal does not keep a drop away.
 QString Dragged_project(const QMimeData& data) {
+    if (QApplication::activeModalWidget()) return {};
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !urls.first().isLocalFile()) return {};
     const QString path = urls.first().toLocalFile();
@@ -276,7 +290,10 @@ void TidemarkMain::dropEvent(QDropEvent* event) {
     if (path.isEmpty()) return;
     event->acceptProposedAction();
     // Later, so that the program it was dragged from does not wait for the boxes that may come up.
-    QTimer::singleShot(0, this, [this, path] { Open(path); });
+    // A slip of the hand on the way to another window is not a wish to lose anything.
+    QTimer::singleShot(0, this, [this, path] {
+        if (May_clear_project(*project_, messages_)) Open(path);
+    });
 }
 
 }  // namespace tidemark

@@ -1,5 +1,6 @@
 #include "canvas/background.h"
 
+#include "model/path_text.h"
 #include "model/project_file.h"
 
 namespace tidemark {
@@ -15,18 +16,21 @@ void Clear_project(Project& p) {
 
 }  // namespace
 
+bool May_clear_project(const Project& project, Messages& messages) {
+    return !project.DataChanged ||
+           Ask(messages, "Tidemark - Load warning",
+               "This will clear all of your current data - do you wish to continue?");
+}
+
 bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
                        const std::string& start_folder) {
-    if (project.DataChanged) {
-        if (!Ask(messages, "Tidemark - Load warning",
-                 "This will clear all of your current data - do you wish to continue?"))
-            return false;
-        Clear_project(project);
-    }
+    if (!May_clear_project(project, messages)) return false;
+    if (project.DataChanged) Clear_project(project);
     FileChooser chooser;
     chooser.Name = "LoadBMPdialog";
     chooser.Title = "Tidemark - Open background image";
     chooser.Filter = "*.BMP;*.GIF;*.JPG";
+    chooser.FileName = project.BackgroundFile;
     chooser.InitialFolder = start_folder;
     const auto path = choosers.Choose(chooser);
     if (!path) return false;
@@ -38,10 +42,12 @@ bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
     return true;
 }
 
-void Load_background_file(Project& project, Messages& messages, const ShowImage& show_image) {
+void Load_background_file(Project& project, Messages& messages, const std::string& project_folder,
+                          const ShowImage& show_image) {
     project.BackgroundLoaded = false;
-    if (!show_image(project.BackgroundFile)) {
-        Warn(messages, "An error occurred when trying to load " + project.BackgroundFile);
+    const std::string& name = project.BackgroundFile;
+    if (!show_image(name) && (Is_full_path(name) || !show_image(project_folder + name))) {
+        Warn(messages, "An error occurred when trying to load " + name);
         return;
     }
     project.BackgroundLoaded = true;

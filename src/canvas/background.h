@@ -10,6 +10,9 @@
 
 namespace tidemark {
 
+// Whether what the project holds may go: asks while there are unsaved changes.
+bool May_clear_project(const Project& project, Messages& messages);
+
 // Asks for a background image; its path becomes BackgroundFile. Unsaved changes are cleared first
 // when the user agrees: the georeference and all points, polygons and cleared cells. False when the
 // user answers No or cancels, or when the path cannot stand in a project file (Warn); what was
@@ -21,8 +24,11 @@ bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
 // before then stays.
 using ShowImage = std::function<bool(const std::string& path)>;
 
-// Loads BackgroundFile. BackgroundLoaded tells whether that worked; a failure is told with Warn,
-// success sets DataChanged.
-void Load_background_file(Project& project, Messages& messages, const ShowImage& show_image);
+// Loads BackgroundFile; one that is no full path is looked for in `project_folder` (which ends with
+// its separator, or is empty) when it cannot be shown as it stands. BackgroundFile stays as it is.
+// BackgroundLoaded tells whether that worked; a failure is told with Warn, success sets
+// DataChanged.
+void Load_background_file(Project& project, Messages& messages, const std::string& project_folder,
+                          const ShowImage& show_image);
 
 }  // namespace tidemark

@@ -35,6 +35,7 @@ QScrollBar* Scroll_bar(const char* name, const char* spoken, Qt::Orientation ori
     bar->setObjectName(name);
     bar->setAccessibleName(spoken);
     bar->setSingleStep(ScrollStep);
+    bar->setFocusPolicy(Qt::TabFocus);
     bar->hide();
     return bar;
 }
@@ -68,6 +69,8 @@ MapView::MapView(Project& project, Messages& messages, QWidget* parent)
     Picture1_->hide();
     Picture2_->setObjectName("Picture2");
     Picture2_->setAccessibleName("Map");
+    setTabOrder(Picture2_, VScroll1_);
+    setTabOrder(VScroll1_, HScroll1_);
     connect(HScroll1_, &QScrollBar::valueChanged, this, &MapView::HScroll1_Change);
     connect(VScroll1_, &QScrollBar::valueChanged, this, &MapView::VScroll1_Change);
     connect(Picture2_, &MapCanvas::Mouse_moved, this, &MapView::Picture2_MouseMove);
@@ -76,7 +79,7 @@ MapView::MapView(Project& project, Messages& messages, QWidget* parent)
 }
 
 void MapView::Load_Background() {
-    Load_background_file(project_, messages_,
+    Load_background_file(project_, messages_, project_folder_,
                          [this](const std::string& path) { return Show_image(path); });
     if (project_.BackgroundLoaded) Q_EMIT Background_shown();
 }
@@ -129,6 +132,12 @@ void MapView::VScroll1_Change(int value) {
 
 void MapView::resizeEvent(QResizeEvent*) {
     BeginLabel_->setGeometry(rect());
+    // Afterwards: a box that comes up must not wait for its answer in the middle of a resize.
+    if (project_.BackgroundLoaded)
+        QMetaObject::invokeMethod(this, &MapView::Form_Resize, Qt::QueuedConnection);
+}
+
+void MapView::Form_Resize() {
     if (!project_.BackgroundLoaded) return;
     Load_Background();
     Q_EMIT Graphics_outdated();

@@ -29,6 +29,10 @@ class MapView : public QWidget {
     // graphics drawn afterwards.
     void Load_Background();
 
+    // Where a BackgroundFile that is no full path may lie: the folder of the opened project, with
+    // its last separator.
+    void Set_project_folder(std::string folder) { project_folder_ = std::move(folder); }
+
     // The image's size in pixels; 0 x 0 before the first one.
     QSize Canvas_size() const { return Picture2_->size(); }
 
@@ -58,6 +62,7 @@ class MapView : public QWidget {
     bool Decode(const QString& path);
     std::optional<ViewLayout> Layout_for(QSize image) const;
     void Lay_out(const ViewLayout& layout);
+    void Form_Resize();
     void HScroll1_Change(int value);
     void VScroll1_Change(int value);
 
@@ -68,6 +73,7 @@ class MapView : public QWidget {
     MapCanvas* Picture2_;  // the canvas
     QScrollBar *HScroll1_, *VScroll1_;
     FileState shown_file_;
+    std::string project_folder_;
 };
 
 }  // namespace tidemark

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include <QHash>
 #include <QImageReader>
 #include <QtEndian>
 
@@ -102,17 +103,60 @@ bool Is_whole_JPEG(QIODevice& file) {
     return false;
 }
 
+// A 32-bit picture at one byte a pixel, which holds the same as long as it has no more than 256
+// colours; otherwise the picture itself.
+QImage With_palette(const QImage& picture) {
+    constexpr qsizetype most_colours = 256;
+    QImage with_palette(picture.size(), QImage::Format_Indexed8);
+    if (with_palette.isNull()) return picture;
+    const QRgb opaque = picture.hasAlphaChannel() ? 0 : qRgb(0, 0, 0);
+    QList<QRgb> colours;
+    QHash<QRgb, uchar> numbers;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        uchar* const to = with_palette.scanLine(y);
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb colour = from[x] | opaque;
+            auto number = numbers.constFind(colour);
+            if (number == numbers.cend()) {
+                if (colours.size() == most_colours) return picture;
+                number = numbers.insert(colour, static_cast<uchar>(colours.size()));
+                colours.append(colour);
+            }
+            to[x] = *number;
+        }
+    }
+    with_palette.setColorTable(colours);
+    return with_palette;
+}
+
 struct ImageKind {
     const char* Format;  // as Qt names it
     QByteArrayView Signature;
     bool (*Is_whole)(QIODevice&);
+    bool LosesPalette = false;  // Qt decodes its palette pictures to 32 bits a pixel
 };
 
 constexpr std::array<ImageKind, 3> ImageKinds{{
     {"bmp", "BM", Is_whole_BMP},
-    {"gif", "GIF8", Is_whole_GIF},
+    {"gif", "GIF8", Is_whole_GIF, true},
     {"jpeg", "\xFF\xD8\xFF", Is_whole_JPEG},
 }};
+
+// A pixel may name a colour that the file's table does not hold, which Qt would look up behind the
+// table. Such a colour is black.
+void Complete_palette(QImage& image) {
+    if (image.pixelFormat().colorModel() != QPixelFormat::Indexed) return;
+    QList<QRgb> colours = image.colorTable();
+    colours.resize(qsizetype{1} << image.depth(), qRgb(0, 0, 0));
+    image.setColorTable(colours);
+}
+
+// In whole MiB, at 32 bits a pixel. A damaged file that names a larger size further on gets no more.
+int Size_in_memory(QSize size) {
+    constexpr qint64 bytes_a_pixel = 4, MiB = 1 << 20;
+    return static_cast<int>(bytes_a_pixel * size.width() * size.height() / MiB) + 1;
+}
 
 }  // namespace
 
@@ -122,14 +166,16 @@ QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
         ImageKinds, [&](const ImageKind& k) { return begin.startsWith(k.Signature); });
     if (kind == ImageKinds.end() || !kind->Is_whole(file) || !file.seek(0)) return {};
 
-    QImageReader::setAllocationLimit(0);  // the size is judged here
     QImageReader reader(&file, kind->Format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(false);
     const QSize claimed = reader.size();
     if (claimed.isEmpty() || !fits(claimed)) return {};
+    QImageReader::setAllocationLimit(Size_in_memory(claimed));
     QImage image = reader.read();
     if (image.isNull() || !fits(image.size())) return {};
+    if (kind->LosesPalette && image.depth() == 32) image = With_palette(image);
+    Complete_palette(image);
     image.setDevicePixelRatio(1);  // a name such as "map@2x.bmp" would make it another
     return image;
 }

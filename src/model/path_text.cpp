@@ -19,4 +19,8 @@ std::string Folder_part(std::string_view path) {
     return std::string(path.substr(0, Folder_length(path)));
 }
 
+bool Is_full_path(std::string_view path) {
+    return path.starts_with('/') || path.starts_with('\\') || path.substr(0, 2).ends_with(':');
+}
+
 }  // namespace tidemark

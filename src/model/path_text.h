@@ -12,4 +12,7 @@ std::string Last_part(std::string_view path);
 // The path up to and with its last separator; empty when it has none.
 std::string Folder_part(std::string_view path);
 
+// Whether the path says by itself where it leads: it begins with a separator or names a drive.
+bool Is_full_path(std::string_view path);
+
 }  // namespace tidemark

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 #include "model/rounding.h"
 
@@ -29,11 +31,12 @@ std::string Fraction_text(double value, int digits) {
     return (value < 0 ? "-" : " ") + std::string(text);
 }
 
-// A number beyond a double's range: an infinity, or 0 when its exponent is negative.
+// A number beyond a double's range: an infinity, or 0 when it is too small. A stream knows which.
 double Out_of_range_value(std::string_view number) {
-    const auto exponent = number.find_first_of("eE");
-    const bool tiny = exponent != number.npos && number.substr(exponent + 1).starts_with('-');
-    return tiny ? 0.0 : std::numeric_limits<double>::infinity();
+    std::istringstream stream{std::string(number)};
+    stream.imbue(std::locale::classic());
+    double value = 0;
+    return stream >> value ? value : std::numeric_limits<double>::infinity();
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ class AfterSave {
           patience_(patience) {}
 
     void Run() {
-        if (task_.Notepad && !programs_.Show(files_.Full_path(task_.File)))
+        if (task_.Notepad && !programs_.Show_text(files_.Full_path(task_.File)))
             return Warn(messages_, NotepadProblem);
         if (task_.Compile && !Delete_compiled_file()) return Warn(messages_, CompilerProblem);
         const auto compiler = Find_compiler();

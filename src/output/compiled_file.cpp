@@ -2,6 +2,7 @@
 
 #include "model/path_text.h"
 #include "output/output_names.h"
+#include "platform/name_case.h"
 
 namespace tidemark {
 
@@ -20,8 +21,9 @@ constexpr int TimeBetweenLooks = 100;
 }  // namespace
 
 std::optional<std::string> Find_compiled_file(const std::string& assembler_file, Files& files) {
-    const auto found = files.Find(BGL_name(assembler_file));
-    return found == assembler_file ? std::nullopt : found;
+    const std::string name = BGL_name(assembler_file);
+    if (Differ_at_most_in_case(name, assembler_file)) return std::nullopt;
+    return files.Find(name);
 }
 
 std::optional<std::string> Await_compiled_file(const std::string& assembler_file,
@@ -36,7 +38,10 @@ std::optional<std::string> Await_compiled_file(const std::string& assembler_file
         const auto size_now = file ? files.Size(*file) : std::nullopt;
         if (size_now != size) quiet = 0;
         size = size_now;
-        if (quiet >= (file ? limits.Complete : limits.GivenUp)) return file;
+        if (quiet >= (file ? limits.Complete : limits.GivenUp)) {
+            patience.Over();
+            return file;
+        }
         patience.Wait(what_for, TimeBetweenLooks);
     }
 }

@@ -1,6 +1,6 @@
 #include "output/help.h"
 
-#include <filesystem>
+#include "model/path_text.h"
 
 namespace tidemark {
 
@@ -29,11 +29,11 @@ bool Is_letter_or_digit(char c) {
 std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Files& files) {
     const std::string below = "/Documentation/" + std::string(document.File);
     const std::string current = places.CurrentFolder + below;
-    const std::string installed =
-        std::filesystem::path(places.ProgramFolder + "/../share/doc/tidemark" + below)
-            .lexically_normal()
-            .string();
-    return !files.Exists(current) && files.Exists(installed) ? installed : current;
+    for (const std::string& path :
+         {current, places.ProgramFolder + below,
+          Folder_part(places.ProgramFolder) + "share/doc/tidemark" + below})
+        if (files.Exists(path)) return path;
+    return current;
 }
 
 std::string File_address(std::string_view path) {
@@ -52,7 +52,7 @@ std::string File_address(std::string_view path) {
 
 void Show_help(const HelpDocument& document, const HelpPlaces& places, Messages& messages,
                Files& files, Programs& programs) {
-    if (!programs.Show(File_address(Find_help(document, places, files))))
+    if (!programs.Show_document(File_address(Find_help(document, places, files))))
         Warn(messages, document.Warning);
 }
 

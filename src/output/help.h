@@ -28,11 +28,12 @@ inline constexpr HelpDocument TutorialDocument{
 // The folders that the documents are looked for from.
 struct HelpPlaces {
     std::string CurrentFolder;  // the documents lie in "Documentation" below it
-    std::string ProgramFolder;  // of the program itself: an installed copy has its documents in
-                                // "../share/doc/tidemark/Documentation" from there
+    std::string ProgramFolder;  // of the program itself: an unpacked copy has its documents in
+                                // "Documentation" there, an installed one in
+                                // "../share/doc/tidemark/Documentation"
 };
 
-// The document's path: below the current folder, or, when it is not there, the installed one. When
+// The document's path: below the current folder, or, when it is not there, with the program. When
 // it is nowhere, the path below the current folder.
 std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Files& files);
 

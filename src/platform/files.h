@@ -1,4 +1,4 @@
-// Files, as the rules ask for them. Paths are bytes in the file system's own encoding.
+// Files, as the rules ask for them. Paths are UTF-8.
 #pragma once
 
 #include <cstdint>

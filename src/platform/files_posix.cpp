@@ -1,5 +1,4 @@
 // The machine's file system by way of POSIX calls.
-#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "platform/files.h"
+#include "platform/name_case.h"
 #include "platform/posix_descriptor.h"
 
 namespace tidemark {
@@ -35,11 +35,6 @@ std::string Link_target(const std::string& path) {
 std::string Folder_of(const std::string& path) {
     const auto slash = path.rfind('/');
     return slash == path.npos ? "./" : path.substr(0, slash + 1);
-}
-
-bool Differ_only_in_case(std::string_view a, std::string_view b) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c; };
-    return std::ranges::equal(a, b, {}, lower, lower);
 }
 
 // The name of a new file beside `path` that removes itself unless it has been renamed over it.
@@ -111,7 +106,7 @@ std::optional<std::string> DiskFiles::Find(const std::string& path) {
     std::error_code unreadable;
     for (const auto& entry : std::filesystem::directory_iterator(Folder_of(path), unreadable)) {
         const std::string candidate = entry.path().filename().string();
-        if (Differ_only_in_case(candidate, name) && (!found || candidate < *found))
+        if (Differ_at_most_in_case(candidate, name) && (!found || candidate < *found))
             found = candidate;
     }
     if (found) found->insert(0, path, 0, path.size() - name.size());

@@ -36,16 +36,22 @@ class Programs {
     // Starts a program without waiting for it.
     virtual ProgramStart Start(const Command& command) = 0;
 
-    // Shows a document, given by its full path or its address, in the program that the desktop has
-    // for it. False when that cannot be started.
-    virtual bool Show(const std::string& document) = 0;
+    // Shows a text file, given by its full path, in a text editor: Notepad, or the one that the
+    // desktop has for it. False when that cannot be started.
+    virtual bool Show_text(const std::string& path) = 0;
+
+    // Shows a document, given by its address, in the program that the desktop has for it. False
+    // when that cannot be started.
+    virtual bool Show_document(const std::string& address) = 0;
 };
 
-// The machine's own programs. What is made for Windows goes through wine, where that is installed.
+// The machine's own programs. On a system that cannot run it by itself, what is made for Windows
+// goes through wine, where that is installed.
 class SystemPrograms : public Programs {
   public:
     ProgramStart Start(const Command& command) override;
-    bool Show(const std::string& document) override;
+    bool Show_text(const std::string& path) override;
+    bool Show_document(const std::string& address) override;
 };
 
 }  // namespace tidemark

@@ -169,8 +169,12 @@ ProgramStart SystemPrograms::Start(const Command& command) {
                          "Please install wine and try again."};
 }
 
-bool SystemPrograms::Show(const std::string& document) {
-    return Spawn({"xdg-open", {document}, ""}) != nullptr;
+bool SystemPrograms::Show_text(const std::string& path) {
+    return Show_document(path);
+}
+
+bool SystemPrograms::Show_document(const std::string& address) {
+    return Spawn({"xdg-open", {address}, ""}) != nullptr;
 }
 
 }  // namespace tidemark

@@ -20,7 +20,7 @@ std::optional<std::string> QtChoosers::Choose(const FileChooser& chooser) {
     dialog.setDefaultSuffix(To_qt(chooser.DefaultExtension));
     if (!chooser.FileName.empty()) dialog.selectFile(To_qt(chooser.FileName));
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    return From_qt(dialog.selectedFiles().constFirst());
+    return Path_from_qt(dialog.selectedFiles().constFirst());
 }
 
 }  // namespace tidemark

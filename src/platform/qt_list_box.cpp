@@ -89,6 +89,11 @@ QSize ListBox::sizeHint() const {
     return {fontMetrics().averageCharWidth() * 36, line * 4 + 2 * frameWidth()};
 }
 
+// Two lines still show where a list goes on, on a screen that has no room for more.
+QSize ListBox::minimumSizeHint() const {
+    return {QListView::minimumSizeHint().width(), 2 * (fontMetrics().height() + frameWidth())};
+}
+
 void ListBox::keyPressEvent(QKeyEvent* event) {
     if (const int code = Key_code(*event)) Q_EMIT Key_pressed(code);
     QListView::keyPressEvent(event);

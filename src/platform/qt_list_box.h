@@ -33,6 +33,7 @@ class ListBox : public QListView {
 
   protected:
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

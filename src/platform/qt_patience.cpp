@@ -9,8 +9,9 @@
 
 namespace tidemark {
 
-QtPatience::~QtPatience() {
+void QtPatience::End() {
     if (!waited_) return;
+    waited_ = false;
     QGuiApplication::restoreOverrideCursor();
     status_bar_.clearMessage();
 }

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include <QDir>
 #include <QString>
 
 namespace tidemark {
@@ -14,6 +15,11 @@ inline QString To_qt(std::string_view text) {
 
 inline std::string From_qt(const QString& text) {
     return text.toStdString();
+}
+
+// A path as the system writes it: on Windows with "\" between folders.
+inline std::string Path_from_qt(const QString& path) {
+    return From_qt(QDir::toNativeSeparators(path));
 }
 
 }  // namespace tidemark

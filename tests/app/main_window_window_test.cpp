@@ -94,6 +94,18 @@ TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpened
     EXPECT_EQ(window_.windowTitle(), "Tidemark - MOVED ONE.TDM");
 }
 
+TEST_F(MainWindowTest, AProjectThatNamesItsPictureWithoutAFolderOpensFromAnyFolder) {
+    Project p;
+    p.BackgroundFile = "bay.bmp";
+    p.BackgroundLoaded = true;
+    Write_file(folder_ / "bay.tdm", Project_bytes(p, "then"));
+    QImage(30, 20, QImage::Format_RGB32).save(QString::fromStdString(folder_ / "bay.bmp"));
+    window_.Open(QString::fromStdString(folder_ / "bay.tdm"));
+    EXPECT_TRUE(window_.Current_project().BackgroundLoaded);
+    EXPECT_EQ(window_.Current_project().BackgroundFile, "bay.bmp");
+    EXPECT_EQ(Control<MapView>(window_, "MapView").Canvas_size(), QSize(30, 20));
+}
+
 TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndARefusedOneLeavesTheProject) {
     const QString good = Write_project("good.TDM");
     const std::string bad = folder_ / "bad.tdm";
@@ -109,6 +121,18 @@ TEST_F(MainWindowTest, AProjectFileCanBeDroppedAndARefusedOneLeavesTheProject) {
               "bad.tdm, line 6: BGLOD8X does not fit -32768..32767: 70000");
     EXPECT_EQ(window_.windowTitle(), "Tidemark - GOOD.TDM");
     EXPECT_TRUE(window_.Current_project() == before);
+
+    Press(Control<ListBox>(window_, "VTPlistbox"), Qt::Key_Down);
+    plan_.Then([&](QWidget& dialog) {
+        EXPECT_FALSE(Drop({good}));  // not under a dialog
+        Press(dialog, Qt::Key_Escape);
+    });
+    Click(Control<QPushButton>(window_, "EditButton"));
+    Click(Control<QPushButton>(window_, "ReverseButton"));
+    plan_.Then_answer(QMessageBox::No);
+    EXPECT_TRUE(Drop({good}));
+    EXPECT_EQ(plan_.Messages().size(), 1U);
+    EXPECT_FALSE(window_.Current_project() == before);  // still reversed
 }
 
 TEST_F(MainWindowTest, ABoxShowsItsMessageAsItIsAndEscapeIsNo) {

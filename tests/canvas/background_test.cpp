@@ -6,7 +6,8 @@
 namespace tidemark {
 
 TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
-    const Project before = Project_of_all_values();
+    Project before = Project_of_all_values();
+    before.BackgroundFile = "/maps/old.bmp";
     Project project = before, cleared = before;
     cleared.BGLOD8X = cleared.BGLOD8Y = 0;
     cleared.BGLOD13tlX = cleared.BGLOD13tlY = cleared.BGLOD13brX = cleared.BGLOD13brY = 0;
@@ -31,7 +32,26 @@ TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     EXPECT_EQ(project.BackgroundFile + fake.messages.Said(), "/maps/bay.gif");
     EXPECT_FALSE(project.DataChanged);
     EXPECT_EQ(fake.choosers.Shown.at(0).InitialFolder, "/maps");
+    EXPECT_EQ(fake.choosers.Shown.at(0).FileName, before.BackgroundFile);
     EXPECT_EQ(fake.choosers.Shown.size(), 3U);
+}
+
+TEST(BackgroundTest, ANameThatIsNoFullPathIsAlsoLookedForBesideTheProject) {
+    for (const auto& [name, tried] : {std::pair{"bay.gif", Texts{"bay.gif", "/p/bay.gif"}},
+                                      {"/m/bay.gif", {"/m/bay.gif"}},
+                                      {"C:\\bay.gif", {"C:\\bay.gif"}}}) {
+        Project project;
+        project.BackgroundFile = name;
+        RecordingMessages messages;
+        Texts asked;
+        Load_background_file(project, messages, "/p/", [&](const std::string& path) {
+            asked.push_back(path);
+            return false;
+        });
+        EXPECT_EQ(asked, tried);
+        EXPECT_EQ(messages.Said(), std::string("An error occurred when trying to load ") + name);
+        EXPECT_EQ(project.BackgroundFile, name);
+    }
 }
 
 }  // namespace tidemark

@@ -26,14 +26,23 @@ TEST(ImageFileTest, EachKindIsReadPixelForPixelInItsOwnDepth) {
     for (const auto& [what, bytes, size, format] :
          {std::tuple{"bmp 8", BMP_bytes(300, 200), QSize{300, 200}, QImage::Format_Indexed8},
           {"bmp 24", Encoded(Red_and_blue(300, 200), "bmp"), {300, 200}, QImage::Format_RGB32},
-          {"gif", GIF_bytes(), {2, 2}, QImage::Format_RGB32},
+          {"gif", GIF_bytes(), {2, 2}, QImage::Format_Indexed8},
           {"jpeg, turned", Turned_JPEG(), {300, 200}, QImage::Format_RGB32}}) {
         const QImage image = Read(bytes);
         ASSERT_EQ(image.size(), size) << what;
         EXPECT_EQ(image.format(), format) << what;
         EXPECT_GT(qRed(image.pixel(0, size.height() - 1)), 240) << what;
         EXPECT_GT(qBlue(image.pixel(size.width() - 1, 0)), 240) << what;
+        EXPECT_EQ(image, QImage::fromData(bytes).convertToFormat(format)) << what;
     }
+}
+
+TEST(ImageFileTest, AGIFKeepsItsTransparentColour) {
+    const QByteArray blue_is_transparent("!\xF9\4\1\0\0\1\0", 8);
+    const QByteArray bytes = GIF_bytes().insert(19, blue_is_transparent);
+    const QImage image = Read(bytes);
+    EXPECT_EQ(image.format(), QImage::Format_Indexed8);
+    EXPECT_EQ(image.convertToFormat(QImage::Format_ARGB32), QImage::fromData(bytes));
 }
 
 static QByteArray With(QByteArray bytes, qsizetype at, const QByteArray& other) {

@@ -64,6 +64,7 @@ TEST_F(MapViewTest, TheImageComesUpScrollsTakesMouseAndKeysAndIsResized) {
 
     QSignalSpy outdated(&view_, &MapView::Graphics_outdated);
     view_.resize(500 + bar_, 400 + bar_);
+    QCoreApplication::processEvents();
     EXPECT_EQ(canvas_.pos(), QPoint(0, 0)) << "a resize goes back to the corner";
     EXPECT_EQ(viewport_.size(), QSize(500, 400));
     EXPECT_EQ(outdated.count(), 1);
@@ -85,6 +86,7 @@ TEST_F(MapViewTest, AFileThatIsNoImageIsToldAndThePictureStays) {
         EXPECT_EQ(Shown(), before) << path;
     }
     view_.resize(500, 400);
+    QCoreApplication::processEvents();
     EXPECT_EQ(messages_.Said(), "") << "a resize asks for no image that is not there";
 }
 

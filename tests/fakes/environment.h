@@ -13,18 +13,26 @@
 
 namespace tidemark {
 
-// Sets an environment variable until the test is over.
+// Sets an environment variable until the test is over; one that was not set is then empty.
 class Variable {
   public:
     Variable(const char* name, const std::string& value) : name_(name) {
         if (const char* const before = std::getenv(name)) before_ = before;
-        ::setenv(name, value.c_str(), 1);
+        Set(value);
     }
     Variable(const Variable&) = delete;
     Variable& operator=(const Variable&) = delete;
-    ~Variable() { before_ ? ::setenv(name_, before_->c_str(), 1) : ::unsetenv(name_); }
+    ~Variable() { Set(before_.value_or("")); }
 
   private:
+    void Set(const std::string& value) {
+#ifdef _WIN32
+        ::_putenv_s(name_, value.c_str());
+#else
+        ::setenv(name_, value.c_str(), 1);
+#endif
+    }
+
     const char* name_;
     std::optional<std::string> before_;
 };

@@ -76,8 +76,9 @@ class RecordingPrograms : public Programs {
     std::string Advice;  // of a start that fails
     bool Ended = false;  // whether what was started has ended
 
-    bool Show(const std::string& document) override {
-        Shown.push_back(document);
+    bool Show_text(const std::string& path) override { return Show_document(path); }
+    bool Show_document(const std::string& address) override {
+        Shown.push_back(address);
         return CanShow;
     }
 

@@ -1,9 +1,9 @@
 // A folder that is gone with the test.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
 #include <iterator>
+#include <random>
 #include <string>
 
 namespace tidemark {
@@ -11,8 +11,11 @@ namespace tidemark {
 class TemporaryFolder {
   public:
     TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "tidemark-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
+        std::random_device random;
+        do {
+            const std::string name = "tidemark-" + std::to_string(random());
+            path_ = (std::filesystem::temp_directory_path() / name).string();
+        } while (!std::filesystem::create_directory(path_));
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
