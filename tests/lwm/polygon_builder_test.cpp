@@ -6,14 +6,14 @@
 
 namespace tidemark {
 
-// How the messages begin, and the polygon that is built. Nothing else may change.
+// What is said, and the polygon that is built. Nothing else may change.
 static std::string Built(Project& project) {
     Project before = project;
     RecordingMessages messages;
     const LWMPolyResult result = Add_LWM_Poly(project, messages, HeightChoice::Conform, "");
     std::string built;
     const auto add = [&](const std::string& text) { built += (built.empty() ? "" : "\n") + text; };
-    for (const Message& message : messages.Shown) add(message.Text.substr(0, 52) + "...");
+    for (const Message& message : messages.Shown) add(message.Text);
     EXPECT_EQ(project.LWMCount, before.LWMCount + (result.Added ? 1 : 0));
     if (!result.Added) return built;
     const Outline outline = LWM_outline(project, project.LWMCount);
@@ -46,11 +46,14 @@ TEST(PolygonBuilderTest, CellsAreCutAlongTheirCoastlines) {
 }
 
 TEST(PolygonBuilderTest, ACoastlineOfMorePointsThanAPolygonHoldsIsToldOnceForEverySide) {
-    const std::string overflow = "Fatal error - polygon overflow\nLikely cause is a VTP...\n";
-    for (const auto& [points, y, built] :
-         {std::tuple{196, 100, std::string("200 points")},
-          {197, 100, overflow + overflow + "200 points"},
-          {199, 200, "The polygon has not been added: the coastlines may h..."}}) {
+    const std::string overflow =
+        "Fatal error - polygon overflow\nLikely cause is a VTP segment without a point in a cell "
+        "through which it passes\n";
+    for (const auto& [points, y, built] : {std::tuple{196, 100, std::string("200 points")},
+                                           {197, 100, overflow + overflow + "200 points"},
+                                           {199, 200,
+                                            "The polygon has not been added: the coastlines may "
+                                            "have at most 200 points in one LOD13 cell."}}) {
         std::string line = "-100,100";
         for (int x = 21; x <= points + 20; ++x)
             line += " " + std::to_string(x) + (x % 2 ? ",90" : ",110");
@@ -80,7 +83,8 @@ TEST(PolygonBuilderTest, A201stPolygonIsRefused) {
     for (int i = 0; i < 199; ++i) Add_polygon(*project, 1, 1, WaterPolygon, 0, 4);
     EXPECT_EQ(Built(*project), "0,0 255,0 255,255 0,255");
     ++project->LWMCount;
-    EXPECT_EQ(Built(*project), "The polygon has not been added: a project holds at m...");
+    EXPECT_EQ(Built(*project),
+              "The polygon has not been added: a project holds at most 200 polygons.");
 }
 
 }  // namespace tidemark

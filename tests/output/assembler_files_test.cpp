@@ -44,7 +44,7 @@ TEST_F(AssemblerFilesTest, TheWholeFileOfOneSegmentAndOneClearedCellAndThatOfOne
 TEST_F(AssemblerFilesTest, TheWholeFilesOfEveryModeAndOfLongRecords) {
     for (const int mode : {9, 2, 7, 0, 1, 6, 5, 4, 3, 1})
         Add_segment(p, mode, 10 * mode + p.VTPCount, {{5871, 5360}, {5872, 5360}});
-    for (const std::size_t points : {27, 28}) Add_segment(p, 5, 80, Points(points, {5000, 6000}));
+    for (const std::size_t points : {27U, 28U}) Add_segment(p, 5, 80, Points(points, {5000, 6000}));
     Expect_file(VTP_file_bytes(p), "every-mode-VTP.asm");
     Add_polygon(p, 12, 7, 10, -9999, 4);
     Add_polygon(p, 13, 7, 11, 0, 62);

@@ -32,7 +32,7 @@ TEST(HelpTest, AboutHasElevenLines) {
     Show_about(messages);
     EXPECT_EQ(std::ranges::count(messages.Shown[0].Text, '\n'), 10);
     EXPECT_TRUE(
-        messages.Said().starts_with("About Tidemark: Tidemark ( V 1.1 - 27th January 2003"));
+        messages.Said().starts_with("About Tidemark: Tidemark ( V 1.1 - 27th January 2003 )\n\n"));
 }
 
 }  // namespace tidemark
