@@ -1,6 +1,7 @@
 #include "app/asm_companion.h"
 
 #include <ostream>
+#include <set>
 
 #include "lwm/lwm_list.h"
 #include "model/path_text.h"
@@ -60,13 +61,26 @@ std::string Output_path(const CompanionTask& task, const std::string& project_pa
     return task.OutputFolder.empty() ? path : task.OutputFolder + "/" + Last_part(path);
 }
 
-bool Write_files_of(const std::string& path, const CompanionTask& task, Files& files,
-                    std::ostream& out, std::ostream& errors) {
+// A file that two projects name would keep the second's data alone.
+bool Take_names(const std::string& path, const Project& project, std::set<std::string>& taken,
+                std::ostream& errors) {
+    for (const std::string& name : {project.VTPFileName, project.LWMFileName})
+        if (!taken.insert(name).second) {
+            errors << path << ": " << name << " already belongs to another of the projects\n";
+            return false;
+        }
+    return true;
+}
+
+bool Write_files_of(const std::string& path, const CompanionTask& task,
+                    std::set<std::string>& taken, Files& files, std::ostream& out,
+                    std::ostream& errors) {
     Project project;
     if (!Read_and_repair(path, project, files, errors)) return false;
     ConsoleMessages messages(errors, path);
     project.VTPFileName = Output_path(task, path, project, project.VTPFileName, "-VTP.asm");
     project.LWMFileName = Output_path(task, path, project, project.LWMFileName, "-LWM.asm");
+    if (!Take_names(path, project, taken, errors)) return false;
 
     VTP_file_write(project, messages, files);
     if (!project.VTPWriteFailed) out << project.VTPFileName << '\n';
@@ -82,8 +96,9 @@ bool Write_files_of(const std::string& path, const CompanionTask& task, Files& f
 bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
                            std::ostream& errors) {
     bool all_written = true;
+    std::set<std::string> taken;
     for (const std::string& path : task.Projects)
-        if (!Write_files_of(path, task, files, out, errors)) all_written = false;
+        if (!Write_files_of(path, task, taken, files, out, errors)) all_written = false;
     return all_written;
 }
 

@@ -22,7 +22,9 @@ bool TidemarkApplication::notify(QObject* receiver, QEvent* event) {
 void TidemarkApplication::Show_error(const QString& what) {
     if (showing_error_) return;  // the box itself must not ask for another
     showing_error_ = true;
-    QMessageBox(QMessageBox::NoIcon, "Tidemark", what, QMessageBox::Ok, activeWindow()).exec();
+    QMessageBox box(QMessageBox::NoIcon, "Tidemark", what, QMessageBox::Ok, activeWindow());
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box.exec();
     showing_error_ = false;
 }
 

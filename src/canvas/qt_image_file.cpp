@@ -60,6 +60,17 @@ bool Skip_colours(QIODevice& file, char flags) {
     return file.skip(size) == size;
 }
 
+// Of a picture that begins beside its screen Qt would show what the memory held before.
+bool Begins_on_screen(const QByteArray& description, const QByteArray& screen) {
+    const auto word = [](const QByteArray& bytes, int at) {
+        return qFromLittleEndian<quint16>(&bytes.data()[at]);
+    };
+    const auto begins_within = [&](int start, int size) {
+        return word(screen, size) == 0 || word(description, start) < word(screen, size);
+    };
+    return begins_within(0, 6) && begins_within(2, 8);
+}
+
 // Whether the first picture is all there; what follows it is not used.
 bool Is_whole_GIF(QIODevice& file) {
     constexpr char extension = 0x21, picture = 0x2C;
@@ -70,8 +81,8 @@ bool Is_whole_GIF(QIODevice& file) {
         if (file.skip(1) != 1 || !Skip_sub_blocks(file)) return false;
     if (kind != picture) return false;
     const QByteArray description = file.read(9);
-    return description.size() == 9 && Skip_colours(file, description[8]) && file.skip(1) == 1 &&
-           Skip_sub_blocks(file);
+    return description.size() == 9 && Begins_on_screen(description, screen) &&
+           Skip_colours(file, description[8]) && file.skip(1) == 1 && Skip_sub_blocks(file);
 }
 
 // Where the pixels of a JPEG begin; nothing that comes before, such as a preview, counts. -1 when
@@ -134,13 +145,16 @@ struct ImageKind {
     const char* Format;  // as Qt names it
     QByteArrayView Signature;
     bool (*Is_whole)(QIODevice&);
-    bool LosesPalette = false;  // Qt decodes its palette pictures to 32 bits a pixel
+    // A packed file may pass over pixels: they have the first colour, but Qt would leave in them
+    // what the memory held before.
+    bool LeavesGaps;
+    bool LosesPalette;  // Qt decodes its palette pictures to 32 bits a pixel
 };
 
 constexpr std::array<ImageKind, 3> ImageKinds{{
-    {"bmp", "BM", Is_whole_BMP},
-    {"gif", "GIF8", Is_whole_GIF, true},
-    {"jpeg", "\xFF\xD8\xFF", Is_whole_JPEG},
+    {"bmp", "BM", Is_whole_BMP, true, false},
+    {"gif", "GIF8", Is_whole_GIF, false, true},
+    {"jpeg", "\xFF\xD8\xFF", Is_whole_JPEG, false, false},
 }};
 
 // A pixel may name a colour that the file's table does not hold, which Qt would look up behind the
@@ -152,7 +166,8 @@ void Complete_palette(QImage& image) {
     image.setColorTable(colours);
 }
 
-// In whole MiB, at 32 bits a pixel. A damaged file that names a larger size further on gets no more.
+// In whole MiB, at 32 bits a pixel. A damaged file that names a larger size further on gets no
+// more.
 int Size_in_memory(QSize size) {
     constexpr qint64 bytes_a_pixel = 4, MiB = 1 << 20;
     return static_cast<int>(bytes_a_pixel * size.width() * size.height() / MiB) + 1;
@@ -172,8 +187,12 @@ QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
     const QSize claimed = reader.size();
     if (claimed.isEmpty() || !fits(claimed)) return {};
     QImageReader::setAllocationLimit(Size_in_memory(claimed));
-    QImage image = reader.read();
-    if (image.isNull() || !fits(image.size())) return {};
+    QImage image;
+    if (kind->LeavesGaps) {
+        image = QImage(claimed, reader.imageFormat());
+        image.fill(0);
+    }
+    if (!reader.read(&image) || !fits(image.size())) return {};
     if (kind->LosesPalette && image.depth() == 32) image = With_palette(image);
     Complete_palette(image);
     image.setDevicePixelRatio(1);  // a name such as "map@2x.bmp" would make it another

@@ -104,8 +104,9 @@ std::optional<std::string> DiskFiles::Find(const std::string& path) {
     const std::string name = std::filesystem::path(path).filename().string();
     std::optional<std::string> found;  // the first in the alphabet, should there be several
     std::error_code unreadable;
-    for (const auto& entry : std::filesystem::directory_iterator(Folder_of(path), unreadable)) {
-        const std::string candidate = entry.path().filename().string();
+    std::filesystem::directory_iterator entry(Folder_of(path), unreadable);
+    for (; entry != std::filesystem::directory_iterator(); entry.increment(unreadable)) {
+        const std::string candidate = entry->path().filename().string();
         if (Differ_at_most_in_case(candidate, name) && (!found || candidate < *found))
             found = candidate;
     }
