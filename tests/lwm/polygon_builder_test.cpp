@@ -49,11 +49,13 @@ TEST(PolygonBuilderTest, ACoastlineOfMorePointsThanAPolygonHoldsIsToldOnceForEve
     const std::string overflow =
         "Fatal error - polygon overflow\nLikely cause is a VTP segment without a point in a cell "
         "through which it passes\n";
-    for (const auto& [points, y, built] : {std::tuple{196, 100, std::string("200 points")},
-                                           {197, 100, overflow + overflow + "200 points"},
-                                           {199, 200,
-                                            "The polygon has not been added: the coastlines may "
-                                            "have at most 200 points in one LOD13 cell."}}) {
+    for (const auto& [points, y, built] :
+         {std::tuple{196, 100, std::string("200 points")},
+          {197, 100, overflow + overflow + "200 points"},
+          {198, 100, overflow + overflow + overflow + overflow + "200 points"},
+          {199, 200,
+           "The polygon has not been added: the coastlines may "
+           "have at most 200 points in one LOD13 cell."}}) {
         std::string line = "-100,100";
         for (int x = 21; x <= points + 20; ++x)
             line += " " + std::to_string(x) + (x % 2 ? ",90" : ",110");
