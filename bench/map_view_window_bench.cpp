@@ -14,8 +14,8 @@
 #include "canvas/refresh_graphics.h"
 #include "fakes/recording_messages.h"
 #include "fakes/sample_projects.h"
-#include "fakes/temporary_folder.h"
 #include "platform/qt_text.h"
+#include "scan.h"
 
 namespace tidemark {
 namespace {
@@ -36,31 +36,6 @@ std::unique_ptr<Project> Busiest_project(QSize canvas) {
     project->ScaleY = static_cast<float>(canvas.height()) / 8192;
     return project;
 }
-
-// A picture with the detail of a scanned map, in a file of its own.
-class Scan {
-  public:
-    Scan(QSize size, const char* format) : path_(folder_ / "map." + format) {
-        QImage image(size, QImage::Format_Indexed8);
-        QList<QRgb> colours;
-        for (int i = 0; i < 256; ++i) colours << qRgb(i, 255 - i / 2, (i * 7) % 256);
-        image.setColorTable(colours);
-        for (int y = 0; y < size.height(); ++y)
-            for (int x = 0; x < size.width(); ++x)
-                image.scanLine(y)[x] = static_cast<uchar>((x / 3 + (y * y) / 900 + x * y / 70000));
-        image.save(To_qt(path_), format, 85);
-    }
-    const std::string& Path() const { return path_; }
-
-    static const Scan& Large(const char* format) {
-        static const Scan jpeg({10000, 10000}, "jpeg"), bmp({10000, 10000}, "bmp");
-        return format[0] == 'j' ? jpeg : bmp;
-    }
-
-  private:
-    TemporaryFolder folder_;
-    std::string path_;
-};
 
 struct OpenMap {
     explicit OpenMap(const Scan& scan, QSize size = {10000, 10000})

@@ -26,7 +26,6 @@ std::pair<std::string, std::string> Name_and_limit(const std::string& what) {
 }  // namespace
 
 bool TableReporter::ReportContext(const Context&) {
-    std::printf("| what | limit | measured | baseline | ratio |\n|---|---|---|---|---|\n");
     return true;
 }
 

@@ -62,4 +62,12 @@ TEST_F(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
     EXPECT_EQ(files_.Content["river-LWM.asm"], LWM_file_bytes(river_));
 }
 
+TEST_F(CompanionTest, AFileThatTwoProjectsNameKeepsTheFirst) {
+    for (const char* const path : {"a/c.TDM", "b/c.TDM"})
+        files_.Content[path] = Project_bytes(river_, "");
+    EXPECT_EQ(Run({"to", {"a/c.TDM", "b/c.TDM"}}, false),
+              "to/c-VTP.asm\nto/c-LWM.asm\n"
+              "b/c.TDM: to/c-VTP.asm already belongs to another of the projects\n");
+}
+
 }  // namespace tidemark

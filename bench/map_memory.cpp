@@ -1,0 +1,66 @@
+// map_memory FORMAT: a row of the table with the memory that the editor takes for a map of
+// 10,000 x 10,000 pixels ("jpeg" or "bmp"), more than it takes without one.
+#include <cstdio>
+#include <fstream>
+#include <memory>
+
+#include <QApplication>
+#include <QImageReader>
+#include <QProcess>
+
+#include "canvas/map_view_window.h"
+#include "fakes/recording_messages.h"
+#include "scan.h"
+
+namespace tidemark {
+namespace {
+
+double Peak_MiB() {
+    std::ifstream status("/proc/self/status");
+    double kilobytes = 0;
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmHWM:")) kilobytes = std::stod(line.substr(6));
+    return kilobytes / 1024;
+}
+
+// Run in a process of its own, which has never held the picture before.
+void Load(const QString& path) {
+    const auto project = std::make_unique<Project>();
+    RecordingMessages messages;
+    MapView view(*project, messages);
+    view.resize(1600, 1000);
+    view.show();
+    QCoreApplication::processEvents();
+    const double before = Peak_MiB();
+    project->BackgroundFile = From_qt(path);
+    view.Load_Background();
+    QCoreApplication::processEvents();
+    if (project->BackgroundLoaded) std::printf("%f", Peak_MiB() - before);
+}
+
+int Print_row(const QString& format) {
+    const QByteArray name = format.toUtf8();
+    const auto& path = Scan::Large(name.constData()).Path();
+    QProcess loading;
+    loading.start(QCoreApplication::applicationFilePath(), {"load", To_qt(path)});
+    loading.waitForFinished(-1);
+    const double taken = loading.readAllStandardOutput().toDouble();
+    const double decoded =
+        static_cast<double>(QImage(To_qt(path)).sizeInBytes()) / (1024.0 * 1024.0);
+    if (taken <= 0 || decoded <= 0) return 1;
+    std::printf(
+        "| memory of a 10,000 x 10,000 %s | 1.25x | %.0f MiB | decoded: %.0f MiB | %.2f |\n",
+        format == "bmp" ? "8-bit BMP" : "JPEG", taken, decoded, taken / decoded);
+    return 0;
+}
+
+}  // namespace
+}  // namespace tidemark
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QImageReader::setAllocationLimit(0);
+    if (argc == 3) tidemark::Load(argv[2]);
+    return argc == 2 ? tidemark::Print_row(argv[1]) : 0;
+}
