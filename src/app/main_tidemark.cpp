@@ -1,6 +1,7 @@
 // tidemark: the editor.
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <QTimer>
 
 #include "app/qt_application.h"
@@ -30,6 +31,8 @@ QStringList Project_argument(int argc, char** argv) {
 int main(int argc, char** argv) {
     const QStringList projects = Project_argument(argc, argv);
     tidemark::TidemarkApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName("tidemark");
+    QGuiApplication::setWindowIcon(QIcon(":/tidemark.png"));
     tidemark::TidemarkMain window;
     window.show();
     // Opened by an event, so that an error is caught as in any other.
