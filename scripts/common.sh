@@ -11,7 +11,7 @@ fail() {
 build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev"
 walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev"
-windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest wine wine64 zip"
+windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils wine wine64 zip"
 package_packages="appstream desktop-file-utils dpkg-dev groff libxml2-utils lintian"
 check_packages="clang-format clang-tidy clang libclang-rt-14-dev"
 
