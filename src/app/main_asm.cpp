@@ -27,6 +27,7 @@ int main(int argc, char** argv) {
                                   {}};
     std::vector<std::string> arguments = tidemark::Console_arguments(argc, argv);
     std::vector<char*> words;  // as getopt wants them, which puts the options first
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) words.push_back(argument.data());
     words.push_back(nullptr);
     const int count = static_cast<int>(arguments.size());

@@ -28,7 +28,7 @@ bool Is_letter_or_digit(char c) {
 
 std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Files& files) {
     const std::string below = "/Documentation/" + std::string(document.File);
-    const std::string current = places.CurrentFolder + below;
+    std::string current = places.CurrentFolder + below;
     for (const std::string& path :
          {current, places.ProgramFolder + below,
           Folder_part(places.ProgramFolder) + "share/doc/tidemark" + below})
