@@ -38,24 +38,23 @@ void TableReporter::ReportRuns(const std::vector<Run>& runs) {
             const std::string& name = run.run_name.function_name;
             const auto bar = name.find('|');
             const double unit = benchmark::GetTimeUnitMultiplier(run.time_unit);
-            figures_.push_back({name.substr(0, bar), name.substr(bar + 1),
-                                run.GetAdjustedRealTime() / unit * 1e6});
+            figures_[run.family_index] = {name.substr(0, bar), name.substr(bar + 1),
+                                          run.GetAdjustedRealTime() / unit * 1e6};
         }
     }
 }
 
 void TableReporter::Finalize() {
-    for (std::size_t i = 0; i < figures_.size(); ++i) {
-        const Figure& own = figures_[i];
-        const bool is_baseline = i > 0 && figures_[i - 1].What == own.What;
-        if (is_baseline) continue;
+    for (auto at = figures_.begin(); at != figures_.end();) {
+        const Figure& own = at->second;
         const auto [name, limit] = Name_and_limit(own.What);
         std::string baselines, ratios;
-        for (std::size_t j = i + 1; j < figures_.size() && figures_[j].What == own.What; ++j) {
+        for (++at; at != figures_.end() && at->second.What == own.What; ++at) {
+            const Figure& baseline = at->second;
             char ratio[32];
-            std::snprintf(ratio, sizeof ratio, "%.2f", own.Microseconds / figures_[j].Microseconds);
-            baselines += (baselines.empty() ? "" : "; ") + figures_[j].Whose + ": " +
-                         Duration_text(figures_[j].Microseconds);
+            std::snprintf(ratio, sizeof ratio, "%.2f", own.Microseconds / baseline.Microseconds);
+            baselines += (baselines.empty() ? "" : "; ") + baseline.Whose + ": " +
+                         Duration_text(baseline.Microseconds);
             ratios += (ratios.empty() ? "" : "; ") + std::string(ratio);
         }
         std::printf("| %s | %s | %s | %s | %s |\n", name.c_str(), limit.c_str(),
@@ -66,7 +65,9 @@ void TableReporter::Finalize() {
 int Run_benchmarks(int argc, char** argv) {
     std::string repetitions = "--benchmark_repetitions=5";
     std::string at_least = "--benchmark_min_time=0.2";
-    std::vector<char*> arguments{argv[0], repetitions.data(), at_least.data()};
+    // A figure and its baselines meet the same disturbances when their repetitions are mixed.
+    std::string mixed = "--benchmark_enable_random_interleaving=true";
+    std::vector<char*> arguments{argv[0], repetitions.data(), at_least.data(), mixed.data()};
     arguments.insert(arguments.end(), argv + 1, argv + argc);
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());

@@ -5,6 +5,8 @@
 // brackets at the end of the first part: "reading the project [3x]", "an ordinary cell [5 us]".
 #pragma once
 
+#include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -24,7 +26,7 @@ class TableReporter : public benchmark::BenchmarkReporter {
         double Microseconds;
     };
 
-    std::vector<Figure> figures_;
+    std::map<std::int64_t, Figure> figures_;  // in the order of registration
 };
 
 // Runs all benchmarks of the program, several times each, and prints the table of their medians.

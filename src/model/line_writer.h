@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tidemark {
 
@@ -15,7 +16,8 @@ class LineWriter {
         bytes_.append("\r\n");
     }
 
-    const std::string& Bytes() const { return bytes_; }
+    // Hands the bytes over; the writer is empty afterwards.
+    std::string Take_bytes() { return std::exchange(bytes_, {}); }
 
   private:
     std::string bytes_;

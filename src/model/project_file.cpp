@@ -1,6 +1,6 @@
 #include "model/project_file.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <system_error>
@@ -25,22 +25,25 @@ class LineReader {
         if (BufferPos >= FileBuffer.size() && ended_at_ == 0) ended_at_ = line_ + 1;
         ++line_;
         const std::size_t start = BufferPos;
-        while (BufferPos < FileBuffer.size() && FileBuffer[BufferPos] != '\n') ++BufferPos;
-        const std::string_view line = FileBuffer.substr(start, BufferPos - start);
-        if (BufferPos < FileBuffer.size()) ++BufferPos;
-        return Without_CR(line);
+        std::size_t end = start;
+        while (end < FileBuffer.size() && FileBuffer[end] != '\n' && FileBuffer[end] != '\r') ++end;
+        if (FileBuffer.substr(end).starts_with("\r\n")) {
+            BufferPos = end + 2;
+            return FileBuffer.substr(start, end - start);
+        }
+        return Read_odd_line();
     }
 
     int Line() const { return line_; }          // the line read last, from 1
     int Ended_at() const { return ended_at_; }  // the first line asked for that was not there, or 0
 
   private:
-    std::string_view Without_CR(std::string_view line) {
-        const std::size_t first = line.find('\r');
-        if (first == line.npos) return line;
-        if (first + 1 == line.size()) return line.substr(0, first);
-        kept_ = line;
+    // A line that does not end with the first CR in it.
+    std::string_view Read_odd_line() {
+        const std::size_t end = std::min(FileBuffer.find('\n', BufferPos), FileBuffer.size());
+        kept_ = FileBuffer.substr(BufferPos, end - BufferPos);
         std::erase(kept_, '\r');
+        BufferPos = std::min(end + 1, FileBuffer.size());
         return kept_;
     }
 
@@ -151,7 +154,7 @@ std::string Project_bytes(const Project& project, std::string_view saved_on) {
     lines.Write_line(project.ProjectFile, " saved on ", saved_on);
     Visit_project(project, writer);
     lines.Write_line("END OF FILE");
-    return lines.Bytes();
+    return lines.Take_bytes();
 }
 
 bool Is_savable(std::string_view text) {

@@ -66,7 +66,7 @@ std::string LWM_file_bytes(const Project& project) {
                   "        LWMIndexEntry " + cell + ", LWMStart, datamark_0, datamark_1",
                   "LWMEnd  label   word"});
     lines.Write_line("; End of LWM file");
-    return lines.Bytes();
+    return lines.Take_bytes();
 }
 
 }  // namespace tidemark

@@ -67,7 +67,7 @@ class VTPText {
         Cleared_cells();
         for (const int layer : Layers) Layer(layer);
         Trailer();
-        return lines_.Bytes();
+        return lines_.Take_bytes();
     }
 
   private:
