@@ -61,12 +61,12 @@ std::string Output_path(const CompanionTask& task, const std::string& project_pa
     return task.OutputFolder.empty() ? path : task.OutputFolder + "/" + Last_part(path);
 }
 
-// A file that two projects name would keep the second's data alone.
+// A file that is named twice, mostly by two projects, would keep the second's data alone.
 bool Take_names(const std::string& path, const Project& project, std::set<std::string>& taken,
                 std::ostream& errors) {
     for (const std::string& name : {project.VTPFileName, project.LWMFileName})
         if (!taken.insert(name).second) {
-            errors << path << ": " << name << " already belongs to another of the projects\n";
+            errors << path << ": " << name << " would be written twice\n";
             return false;
         }
     return true;

@@ -67,7 +67,7 @@ TEST_F(CompanionTest, AFileThatTwoProjectsNameKeepsTheFirst) {
         files_.Content[path] = Project_bytes(river_, "");
     EXPECT_EQ(Run({"to", {"a/c.TDM", "b/c.TDM"}}, false),
               "to/c-VTP.asm\nto/c-LWM.asm\n"
-              "b/c.TDM: to/c-VTP.asm already belongs to another of the projects\n");
+              "b/c.TDM: to/c-VTP.asm would be written twice\n");
 }
 
 }  // namespace tidemark
