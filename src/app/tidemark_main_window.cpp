@@ -125,9 +125,13 @@ void TidemarkMain::Wire_status_panel() {
             QMetaObject::invokeMethod(this, &TidemarkMain::Status_Resize, Qt::QueuedConnection);
     });
     connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
-    const auto change_window = [](QWidget* from) { return new QShortcut(Qt::Key_F6, from); };
-    connect(change_window(this), &QShortcut::activated, this, &TidemarkMain::ShowStatus_Click);
-    connect(change_window(status_), &QShortcut::activated, this, &QWidget::activateWindow);
+    // The panel belongs to this window, whose shortcuts it has too.
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] {
+        if (status_->isActiveWindow())
+            activateWindow();
+        else
+            ShowStatus_Click();
+    });
     const auto redraw = &TidemarkMain::Refresh_Graphics;
     connect(status_, &Status::RefreshButton_Click, this, redraw);
     connect(&status_->VTP(), &VTPFrame::Graphics_outdated, this, redraw);
