@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "app/asm_companion.h"
-#include "platform/arguments.h"
+#include "platform/console.h"
 
 namespace {
 
@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
                                   {"help", no_argument, nullptr, 'h'},
                                   {"version", no_argument, nullptr, 'v'},
                                   {}};
+    const auto prints_utf8 = tidemark::Console_in_utf8();
     std::vector<std::string> arguments = tidemark::Console_arguments(argc, argv);
     std::vector<char*> words;  // as getopt wants them, which puts the options first
     words.reserve(arguments.size() + 1);
@@ -49,7 +50,9 @@ int main(int argc, char** argv) {
                 return ExitUsage;
         }
     }
-    task.Projects.assign(words.begin() + optind, words.begin() + count);
+    for (int i = optind; i < count; ++i)
+        for (const std::string& project : tidemark::Files_meant(words[static_cast<std::size_t>(i)]))
+            task.Projects.push_back(project);
     if (task.Projects.empty()) {
         std::cerr << Usage;
         return ExitUsage;

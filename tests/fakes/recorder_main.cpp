@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/arguments.h"
+#include "platform/console.h"
 
 int main(int argc, char** argv) {
     const std::filesystem::path record = std::getenv("RECORD");
