@@ -1,7 +1,7 @@
 #include "app/asm_companion.h"
 
+#include <algorithm>
 #include <ostream>
-#include <set>
 
 #include "lwm/lwm_list.h"
 #include "model/path_text.h"
@@ -61,44 +61,58 @@ std::string Output_path(const CompanionTask& task, const std::string& project_pa
     return task.OutputFolder.empty() ? path : task.OutputFolder + "/" + Last_part(path);
 }
 
-// A file that is named twice, mostly by two projects, would keep the second's data alone.
-bool Take_names(const std::string& path, const Project& project, std::set<std::string>& taken,
-                std::ostream& errors) {
-    for (const std::string& name : {project.VTPFileName, project.LWMFileName})
-        if (!taken.insert(name).second) {
-            errors << path << ": " << name << " would be written twice\n";
+class Companion {
+  public:
+    Companion(const CompanionTask& task, Files& files, std::ostream& out, std::ostream& errors)
+        : task_(task), files_(files), out_(out), errors_(errors) {}
+
+    // False when anything was refused.
+    bool Write_files_of(const std::string& path) {
+        Project project;
+        if (!Read_and_repair(path, project, files_, errors_)) return false;
+        ConsoleMessages messages(errors_, path);
+        project.VTPFileName = Output_path(task_, path, project, project.VTPFileName, "-VTP.asm");
+        project.LWMFileName = Output_path(task_, path, project, project.LWMFileName, "-LWM.asm");
+
+        const bool vtp_written = Write(path, project.VTPFileName, [&] {
+            VTP_file_write(project, messages, files_);
+            return !project.VTPWriteFailed;
+        });
+        const bool lwm_written = project.LWMCount == 0 || Write(path, project.LWMFileName, [&] {
+                                     return LWM_file_write(project, messages, files_);
+                                 });
+        return vtp_written && lwm_written;
+    }
+
+  private:
+    // A name that leads to a file of this run is refused: what was written first would be lost.
+    template <class Write_file>
+    bool Write(const std::string& project, const std::string& name, Write_file write_file) {
+        const auto is_name = [&](const auto& other) { return files_.Is_same_file(name, other); };
+        if (std::ranges::any_of(written_, is_name)) {
+            errors_ << project << ": " << name << " would be written twice\n";
             return false;
         }
-    return true;
-}
+        if (!write_file()) return false;
+        written_.push_back(name);
+        out_ << name << '\n';
+        return true;
+    }
 
-bool Write_files_of(const std::string& path, const CompanionTask& task,
-                    std::set<std::string>& taken, Files& files, std::ostream& out,
-                    std::ostream& errors) {
-    Project project;
-    if (!Read_and_repair(path, project, files, errors)) return false;
-    ConsoleMessages messages(errors, path);
-    project.VTPFileName = Output_path(task, path, project, project.VTPFileName, "-VTP.asm");
-    project.LWMFileName = Output_path(task, path, project, project.LWMFileName, "-LWM.asm");
-    if (!Take_names(path, project, taken, errors)) return false;
-
-    VTP_file_write(project, messages, files);
-    if (!project.VTPWriteFailed) out << project.VTPFileName << '\n';
-    if (project.LWMCount == 0) return !project.VTPWriteFailed;
-
-    const bool lwm_written = LWM_file_write(project, messages, files);
-    if (lwm_written) out << project.LWMFileName << '\n';
-    return lwm_written && !project.VTPWriteFailed;
-}
+    const CompanionTask& task_;
+    Files& files_;
+    std::ostream& out_;
+    std::ostream& errors_;
+    std::vector<std::string> written_;
+};
 
 }  // namespace
 
 bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
                            std::ostream& errors) {
+    Companion companion(task, files, out, errors);
     bool all_written = true;
-    std::set<std::string> taken;
-    for (const std::string& path : task.Projects)
-        if (!Write_files_of(path, task, taken, files, out, errors)) all_written = false;
+    for (const std::string& path : task.Projects) all_written &= companion.Write_files_of(path);
     return all_written;
 }
 

@@ -17,8 +17,8 @@ struct CompanionTask {
 // Writes the assembler files of each project: the VTP file, and the LWM file when there are
 // polygons. A name that the project does not hold is the project's own with -VTP.asm or -LWM.asm.
 // Prints a line for each file written to `out`; refusals go to `errors` after the project's name.
-// The two files of a project, and the projects, do not depend on one another. True when nothing was
-// refused.
+// The two files of a project, and the projects, do not depend on one another, but no file is
+// written twice. True when nothing was refused.
 bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
                            std::ostream& errors);
 

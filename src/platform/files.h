@@ -1,4 +1,4 @@
-// Files, as the rules ask for them. Paths are UTF-8.
+// Files, as the rules ask for them. Paths are UTF-8 on Windows, elsewhere the system's own bytes.
 #pragma once
 
 #include <cstdint>
@@ -38,6 +38,9 @@ class Files {
     // The path from the root of the file system on; a path that is full already stays as it is.
     virtual std::string Full_path(const std::string& path) = 0;
 
+    // Whether both paths lead to one file, however they are written. False when one is not there.
+    virtual bool Is_same_file(const std::string& path, const std::string& other) = 0;
+
     // Bytes; nothing when there is no such file.
     virtual std::optional<std::uintmax_t> Size(const std::string& path) = 0;
 
@@ -60,6 +63,7 @@ class DiskFiles : public Files {
     bool Exists(const std::string& path) override;
     std::optional<std::string> Find(const std::string& path) override;
     std::string Full_path(const std::string& path) override;
+    bool Is_same_file(const std::string& path, const std::string& other) override;
     std::optional<std::uintmax_t> Size(const std::string& path) override;
     FileResult Delete(const std::string& path) override;
     FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) override;

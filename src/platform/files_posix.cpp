@@ -120,6 +120,11 @@ std::string DiskFiles::Full_path(const std::string& path) {
     return error ? path : full.string();
 }
 
+bool DiskFiles::Is_same_file(const std::string& path, const std::string& other) {
+    std::error_code not_there;
+    return std::filesystem::equivalent(path, other, not_there);
+}
+
 std::optional<std::uintmax_t> DiskFiles::Size(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) return std::nullopt;

@@ -1,5 +1,6 @@
 // The machine's file system by way of Windows' calls.
 #include <algorithm>
+#include <filesystem>
 #include <system_error>
 #include <utility>
 
@@ -134,6 +135,11 @@ std::string DiskFiles::Full_path(const std::string& path) {
     return full.empty() ? path : From_windows(full);
 }
 
+bool DiskFiles::Is_same_file(const std::string& path, const std::string& other) {
+    std::error_code not_there;
+    return std::filesystem::equivalent(To_windows(path), To_windows(other), not_there);
+}
+
 std::optional<std::uintmax_t> DiskFiles::Size(const std::string& path) {
     WIN32_FILE_ATTRIBUTE_DATA data;
     if (!GetFileAttributesExW(To_windows(path).c_str(), GetFileExInfoStandard, &data))
@@ -173,7 +179,7 @@ FileResult DiskFiles::Read(const std::string& path, std::uintmax_t limit, std::s
 
 FileResult DiskFiles::Replace(const std::string& path, std::string_view bytes) {
     if (path.find('\0') != path.npos) return Failed(std::errc::invalid_argument);
-    const std::wstring target = Link_target(To_windows(path));
+    const std::wstring target = Link_target(To_windows(Full_path(path)));
     if (Is_folder(target)) return Failed(std::errc::is_a_directory);
 
     TemporaryFile temporary(target);

@@ -62,12 +62,18 @@ TEST_F(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
     EXPECT_EQ(files_.Content["river-LWM.asm"], LWM_file_bytes(river_));
 }
 
-TEST_F(CompanionTest, AFileThatTwoProjectsNameKeepsTheFirst) {
+TEST_F(CompanionTest, NoFileIsWrittenTwice) {
     for (const char* const path : {"a/c.TDM", "b/c.TDM"})
         files_.Content[path] = Project_bytes(river_, "");
-    EXPECT_EQ(Run({"to", {"a/c.TDM", "b/c.TDM"}}, false),
-              "to/c-VTP.asm\nto/c-LWM.asm\n"
-              "b/c.TDM: to/c-VTP.asm would be written twice\n");
+    river_.PrefsSet = true;
+    river_.VTPFileName = river_.LWMFileName = "both.asm";
+    files_.Content["both.TDM"] = Project_bytes(river_, "");
+    EXPECT_EQ(Run({"to", {"a/c.TDM", "b/c.TDM", "both.TDM"}}, false),
+              "to/c-VTP.asm\nto/c-LWM.asm\nto/both.asm\n"
+              "b/c.TDM: to/c-VTP.asm would be written twice\n"
+              "b/c.TDM: to/c-LWM.asm would be written twice\n"
+              "both.TDM: to/both.asm would be written twice\n");
+    EXPECT_EQ(files_.Content["to/both.asm"], VTP_file_bytes(river_));
 }
 
 }  // namespace tidemark

@@ -38,6 +38,10 @@ class MemoryFiles : public Files {
     bool Exists(const std::string& path) override { return Content.contains(path); }
     std::string Full_path(const std::string& path) override { return path; }
 
+    bool Is_same_file(const std::string& path, const std::string& other) override {
+        return path == other && Exists(path);
+    }
+
     std::optional<std::string> Find(const std::string& path) override {
         if (Exists(path)) return path;
         for (const auto& [name, content] : Content)

@@ -15,6 +15,8 @@ TEST(FilesTest, FilesAreReplacedFoundMeasuredReadAndRemovedOrItIsSaidWhyNot) {
     EXPECT_EQ(files.Find(none), std::nullopt);
     EXPECT_TRUE(files.Full_path("b").ends_with("b"));
     EXPECT_EQ(files.Full_path(files.Full_path("b")), files.Full_path("b"));
+    EXPECT_TRUE(files.Is_same_file(path, folder / "./K\xC3\xBCste 1.TDM"));
+    EXPECT_FALSE(files.Is_same_file(path, none));
     EXPECT_EQ(files.Size(path), 5U);
     EXPECT_EQ(files.Size(none), std::nullopt);
 
