@@ -65,7 +65,11 @@ ProgramStart SystemPrograms::Start(const Command& command) {
 }
 
 bool SystemPrograms::Show_text(const std::string& path) {
-    return Spawn({"notepad.exe", {path}, ""}) != nullptr;
+    // By its full path: a program of that name in the project's folder is not the one meant.
+    wchar_t folder[MAX_PATH];
+    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH) return false;
+    return Spawn({From_windows({folder, length}) + "\\notepad.exe", {path}, ""}) != nullptr;
 }
 
 // What ShellExecute returns is a number in a pointer's clothes, above 32 when it has worked.
