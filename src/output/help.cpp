@@ -38,11 +38,13 @@ std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Fi
 
 std::string File_address(std::string_view path) {
     constexpr std::string_view hex = "0123456789ABCDEF";
-    const std::string_view as_is = path.starts_with('/') ? "/-._~:" : "/-._~:\\";
+    const bool is_of_windows = !path.starts_with('/');
+    const std::string_view as_is = is_of_windows ? "/-._~:\\" : "/-._~:";
     std::string address = "file://";
     for (const char c : path) {
         const auto byte = static_cast<unsigned char>(c);
-        if (Is_letter_or_digit(c) || as_is.find(c) != as_is.npos)
+        const bool is_letter = Is_letter_or_digit(c) || (is_of_windows && byte >= 0x80);
+        if (is_letter || as_is.find(c) != as_is.npos)
             address += c;
         else
             ((address += '%') += hex[byte / 16]) += hex[byte % 16];

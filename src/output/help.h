@@ -38,7 +38,8 @@ struct HelpPlaces {
 std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Files& files);
 
 // "file://" and the path, with every byte that an address cannot carry as it is written %20 and the
-// like. The separators stay as they are, and so does the "\" of a path with a drive letter.
+// like. The separators stay as they are. So do the "\" and the letters beyond ASCII of a path with
+// a drive letter, which Windows would read as of another encoding.
 std::string File_address(std::string_view path);
 
 // Shows the document in the web browser; warns when none can be started.
