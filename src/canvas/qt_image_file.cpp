@@ -5,6 +5,7 @@
 
 #include <QHash>
 #include <QImageReader>
+#include <QScopeGuard>
 #include <QtEndian>
 
 namespace tidemark {
@@ -123,12 +124,14 @@ QImage With_palette(const QImage& picture) {
     const QRgb opaque = picture.hasAlphaChannel() ? 0 : qRgb(0, 0, 0);
     QList<QRgb> colours;
     QHash<QRgb, uchar> numbers;
+    auto number = numbers.cend();  // of the pixel before, whose colour most pixels share
     for (int y = 0; y < picture.height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         uchar* const to = with_palette.scanLine(y);
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb colour = from[x] | opaque;
-            auto number = numbers.constFind(colour);
+            if (number == numbers.cend() || number.key() != colour)
+                number = numbers.constFind(colour);
             if (number == numbers.cend()) {
                 if (colours.size() == most_colours) return picture;
                 number = numbers.insert(colour, static_cast<uchar>(colours.size()));
@@ -186,6 +189,8 @@ QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
     reader.setAutoTransform(false);
     const QSize claimed = reader.size();
     if (claimed.isEmpty() || !fits(claimed)) return {};
+    const auto restore_limit = qScopeGuard(
+        [limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
     QImageReader::setAllocationLimit(Size_in_memory(claimed));
     QImage image;
     if (kind->LeavesGaps) {
