@@ -13,10 +13,10 @@ walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev"
 windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils wine wine64 zip"
 package_packages="appstream desktop-file-utils dpkg-dev groff libxml2-utils lintian"
-check_packages="clang-format clang-tidy clang libclang-rt-14-dev"
+fuzz_packages="clang libclang-rt-14-dev"
 
 # Where the Qt that the Windows edition is linked with is kept.
-windows_qt=${TIDEMARK_WINDOWS_QT:-$HOME/.cache/tidemark/windows-qt}
+windows_qt=$(realpath -m "${TIDEMARK_WINDOWS_QT:-$HOME/.cache/tidemark/windows-qt}")
 
 # Installs those of the Debian packages given that are not there yet.
 install_packages() {
@@ -37,6 +37,16 @@ install_packages() {
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null ||
         fail "apt-get could not install ${missing[*]}"
+}
+
+# Installs what building the preset $1 takes.
+install_for_preset() {
+    install_packages $build_packages
+    case $1 in
+        release) install_packages $bench_packages ;;
+        fuzz) install_packages $fuzz_packages ;;
+        mingw) install_packages $windows_packages ;;
+    esac
 }
 
 # Configures and builds a preset: build_preset NAME [target...]
