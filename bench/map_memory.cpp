@@ -61,6 +61,8 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     QImageReader::setAllocationLimit(0);
-    if (argc == 3) tidemark::Load(argv[2]);
-    return argc == 2 ? tidemark::Print_row(argv[1]) : 0;
+    if (argc == 2) return tidemark::Print_row(argv[1]);
+    if (argc != 3) return 2;
+    tidemark::Load(argv[2]);
+    return 0;
 }

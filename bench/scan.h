@@ -26,8 +26,13 @@ class Scan {
     const std::string& Path() const { return path_; }
 
     static const Scan& Large(const char* format) {
-        static const Scan jpeg({10000, 10000}, "jpeg"), bmp({10000, 10000}, "bmp");
-        return format[0] == 'j' ? jpeg : bmp;
+        constexpr QSize size(10000, 10000);
+        if (format[0] == 'j') {
+            static const Scan jpeg(size, "jpeg");
+            return jpeg;
+        }
+        static const Scan bmp(size, "bmp");
+        return bmp;
     }
 
   private:

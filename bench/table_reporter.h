@@ -1,4 +1,4 @@
-// Prints benchmarks as one Markdown table, each figure beside its baselines.
+// Prints benchmarks as rows of a Markdown table, each figure beside its baselines.
 //
 // A benchmark's name is "what is measured|whose": of the names that share the first part, the one
 // registered first is the program's own figure and the others are its baselines. A limit stands in
@@ -29,7 +29,7 @@ class TableReporter : public benchmark::BenchmarkReporter {
     std::map<std::int64_t, Figure> figures_;  // in the order of registration
 };
 
-// Runs all benchmarks of the program, several times each, and prints the table of their medians.
+// Runs all benchmarks of the program, several times each, and prints the rows with their medians.
 int Run_benchmarks(int argc, char** argv);
 
 }  // namespace tidemark

@@ -60,12 +60,12 @@ double Plain_reading(std::string_view text) {
 }
 
 void Check_whole_number(std::string_view text, double value) {
-    const bool fits = value > -32768.5 - 1e-9 && value < 32767.5;
+    const bool fits = value >= -32768.5 && value < 32767.5;
     try {
         const Int16 whole = Int_value(text);
         Check(fits && std::fabs(whole - value) <= 0.5, "a whole number is the nearest");
     } catch (const Overflow&) {
-        Check(value < -32768.5 || value >= 32767.5, "what fits is read");
+        Check(!fits, "what fits is read");
     }
 }
 

@@ -240,6 +240,8 @@ void Walk::Compile_and_copy(const QString& compiler) {
 }
 
 void Walk::Save_and_compile(const char* entry, const QString& name, const QString& picture) {
+    const QString copy = "scenery/" + name + ".BGL";
+    QFile::remove(copy);  // of an earlier walk
     Plan plan;
     plan.Then([&](QWidget& box) {
         if (!picture.isEmpty()) Save_picture({&window_, &panel_, &box}, picture);
@@ -247,7 +249,6 @@ void Walk::Save_and_compile(const char* entry, const QString& name, const QStrin
     });
     Choose_entry(window_, "Output", entry);
     plan.Finish();
-    const QString copy = "scenery/" + name + ".BGL";
     Check(QFile(copy).size() > QFile(name + ".asm").size(), copy + " is not the compiled file");
 }
 
@@ -262,7 +263,7 @@ void Walk::Open_the_sample() {
     Save_file("VTPsave", "golden-gate-VTP.asm");
 }
 
-// Each point may be the one too many, so Exit asks; No goes back to the map.
+// The click adds a point, which Exit then asks about; No goes back to the map.
 void Walk::Exit_through_the_question() {
     Click_map({22, 14, 128, 128});
     Plan plan;
