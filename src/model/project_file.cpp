@@ -27,19 +27,19 @@ class LineReader {
         const std::size_t start = BufferPos;
         std::size_t end = start;
         while (end < FileBuffer.size() && FileBuffer[end] != '\n' && FileBuffer[end] != '\r') ++end;
-        if (FileBuffer.substr(end).starts_with("\r\n")) {
-            BufferPos = end + 2;
-            return FileBuffer.substr(start, end - start);
-        }
-        return Read_odd_line();
+        const std::string_view rest = FileBuffer.substr(end);
+        const bool has_CR = rest.starts_with('\r');
+        if (has_CR && !rest.starts_with("\r\n")) return Read_line_with_CRs();
+        BufferPos = std::min(end + (has_CR ? 2 : 1), FileBuffer.size());
+        return FileBuffer.substr(start, end - start);
     }
 
     int Line() const { return line_; }          // the line read last, from 1
     int Ended_at() const { return ended_at_; }  // the first line asked for that was not there, or 0
 
   private:
-    // A line that does not end with the first CR in it.
-    std::string_view Read_odd_line() {
+    // A line with CRs elsewhere than at its end alone.
+    std::string_view Read_line_with_CRs() {
         const std::size_t end = std::min(FileBuffer.find('\n', BufferPos), FileBuffer.size());
         kept_ = FileBuffer.substr(BufferPos, end - BufferPos);
         std::erase(kept_, '\r');

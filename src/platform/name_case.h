@@ -1,4 +1,4 @@
-// Names of files as Windows compares them.
+// Names of files regardless of the case of their letters A to Z.
 #pragma once
 
 #include <algorithm>

@@ -9,7 +9,7 @@
 
 namespace tidemark {
 
-void QtPatience::End() {
+void QtPatience::Over() {
     if (!waited_) return;
     waited_ = false;
     QGuiApplication::restoreOverrideCursor();

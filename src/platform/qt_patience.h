@@ -14,14 +14,12 @@ class QtPatience : public Patience {
     explicit QtPatience(QStatusBar& status_bar) : status_bar_(status_bar) {}
     QtPatience(const QtPatience&) = delete;
     QtPatience& operator=(const QtPatience&) = delete;
-    ~QtPatience() override { End(); }
+    ~QtPatience() override { QtPatience::Over(); }
 
     void Wait(const std::string& what_for, int milliseconds) override;
-    void Over() override { End(); }
+    void Over() override;
 
   private:
-    void End();
-
     QStatusBar& status_bar_;
     bool waited_ = false;
 };
