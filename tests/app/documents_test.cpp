@@ -1,5 +1,5 @@
 // The documents against the program: every link leads somewhere, and every menu entry, control
-// and message that they name is one of the program's.
+// and message that they name is one of the program's. The packages' files, against its version.
 #include <filesystem>
 #include <regex>
 #include <set>
@@ -72,6 +72,19 @@ TEST_P(DocumentsTest, EveryMenuEntryControlAndMessageIsTheProgramsOwn) {
     for (const std::string& message : Found(text_, "<q class=\"says\">([^]*?)</q>"))
         for (const std::string& piece : Found(message, "<br>|<var>[^<]*</var>", -1))
             EXPECT_NE(texts_.find(Plain(piece)), texts_.npos) << message << "\nlacks: " << piece;
+}
+
+TEST(PackagingTest, EveryFileNamesTheProgramsVersion) {
+    const std::string version = TIDEMARK_VERSION;
+    for (const auto& [file, text] :
+         {std::pair{"README.md", "/tidemark_" + version + "_amd64.deb"},
+          {"README.md", "/tidemark-" + version + "-windows.zip"},
+          {"packaging/debian/changelog", "tidemark (" + version + ")"},
+          {"packaging/debian/tidemark.1", "\"Tidemark " + version + "\""},
+          {"packaging/debian/tidemark-asm.1", "\"Tidemark " + version + "\""},
+          {"packaging/debian/example.tidemark.Tidemark.metainfo.xml",
+           "<release version=\"" + version + "\""}})
+        EXPECT_NE(Source_file(file).find(text), std::string::npos) << file << " lacks " << text;
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DocumentsTest, testing::Values("Instructions.html", "Tutorial.html"));
