@@ -1,15 +1,12 @@
 // Files, programs and variables of the test's own, for tests that really read or start something.
 #pragma once
 
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <optional>
 #include <sstream>
 #include <string>
-#include <thread>
 
 namespace tidemark {
 
@@ -50,15 +47,6 @@ inline std::string File_content(const std::string& path) {
 // A file of the project's own, such as one that another is to be equal to.
 inline std::string Source_file(const std::string& name) {
     return File_content(TIDEMARK_SOURCE_DIR "/" + name);
-}
-
-// Whether it comes true within ten seconds.
-inline bool Comes_true(const std::function<bool()>& condition) {
-    for (int look = 0; look < 1000; ++look) {
-        if (condition()) return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    return false;
 }
 
 }  // namespace tidemark

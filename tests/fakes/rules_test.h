@@ -12,6 +12,7 @@
 
 #include "fakes/cases.h"
 #include "fakes/cell_picture.h"
+#include "fakes/comes_true.h"
 #include "fakes/environment.h"
 #include "fakes/fake_platform.h"
 #include "fakes/random_numbers.h"

@@ -5,6 +5,9 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <system_error>
+
+#include "fakes/comes_true.h"
 
 namespace tidemark {
 
@@ -19,7 +22,14 @@ class TemporaryFolder {
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+    // Windows holds the folder of a program for a moment after its end.
+    ~TemporaryFolder() {
+        Comes_true([this] {
+            std::error_code held;
+            std::filesystem::remove_all(path_, held);
+            return !held;
+        });
+    }
 
     const std::string& Path() const { return path_; }
     std::string operator/(const std::string& name) const { return path_ + "/" + name; }
