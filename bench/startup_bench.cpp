@@ -22,6 +22,7 @@ const bool registered = [] {
                 Start(state, command);
             })
             ->UseRealTime()
+            ->MinTime(1)
             ->Unit(benchmark::kMillisecond);
     return true;
 }();
