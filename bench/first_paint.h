@@ -2,18 +2,18 @@
 #pragma once
 
 #include <cstdio>
-#include <fstream>
 #include <set>
-#include <string>
 
 #include <QApplication>
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
 
+#include "process_memory.h"
+
 namespace tidemark {
 
-// Ends the program once two windows have been painted, and prints its resident memory.
+// Ends the program once two windows have been painted, and prints its resident memory in MiB.
 class FirstPaint : public QObject {
   public:
     explicit FirstPaint(QApplication& application) { application.installEventFilter(this); }
@@ -29,10 +29,7 @@ class FirstPaint : public QObject {
 
   private:
     static void End() {
-        std::ifstream status("/proc/self/status");
-        for (std::string line; std::getline(status, line);)
-            if (line.starts_with("VmRSS") || line.starts_with("RssAnon"))
-                std::printf("%s\n", line.c_str());
+        std::printf("%.0f\n", Process_MiB("VmRSS:"));
         QApplication::quit();
     }
 

@@ -1,7 +1,6 @@
 // map_memory FORMAT: a row of the table with the memory that the editor takes for a map of
 // 10,000 x 10,000 pixels ("jpeg" or "bmp"), more than it takes without one.
 #include <cstdio>
-#include <fstream>
 #include <memory>
 
 #include <QApplication>
@@ -10,18 +9,11 @@
 
 #include "canvas/map_view_window.h"
 #include "fakes/recording_messages.h"
+#include "process_memory.h"
 #include "scan.h"
 
 namespace tidemark {
 namespace {
-
-double Peak_MiB() {
-    std::ifstream status("/proc/self/status");
-    double kilobytes = 0;
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmHWM:")) kilobytes = std::stod(line.substr(6));
-    return kilobytes / 1024;
-}
 
 // Run in a process of its own, which has never held the picture before.
 void Load(const QString& path) {
@@ -31,11 +23,11 @@ void Load(const QString& path) {
     view.resize(1600, 1000);
     view.show();
     QCoreApplication::processEvents();
-    const double before = Peak_MiB();
+    const double before = Process_MiB("VmHWM:");
     project->BackgroundFile = From_qt(path);
     view.Load_Background();
     QCoreApplication::processEvents();
-    if (project->BackgroundLoaded) std::printf("%f", Peak_MiB() - before);
+    if (project->BackgroundLoaded) std::printf("%f", Process_MiB("VmHWM:") - before);
 }
 
 int Print_row(const QString& format) {
