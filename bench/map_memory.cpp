@@ -1,14 +1,12 @@
 // map_memory FORMAT: a row of the table with the memory that the editor takes for a map of
 // 10,000 x 10,000 pixels ("jpeg" or "bmp"), more than it takes without one.
 #include <cstdio>
-#include <memory>
 
 #include <QApplication>
 #include <QImageReader>
 #include <QProcess>
 
 #include "canvas/map_view_window.h"
-#include "fakes/recording_messages.h"
 #include "process_memory.h"
 #include "scan.h"
 
@@ -17,17 +15,14 @@ namespace {
 
 // Run in a process of its own, which has never held the picture before.
 void Load(const QString& path) {
-    const auto project = std::make_unique<Project>();
-    RecordingMessages messages;
-    MapView view(*project, messages);
+    MapView view;
     view.resize(1600, 1000);
     view.show();
     QCoreApplication::processEvents();
     const double before = Process_MiB("VmHWM:");
-    project->BackgroundFile = From_qt(path);
-    view.Load_Background();
+    const bool is_shown = view.Show_image(From_qt(path));
     QCoreApplication::processEvents();
-    if (project->BackgroundLoaded) std::printf("%f", Process_MiB("VmHWM:") - before);
+    if (is_shown) std::printf("%f", Process_MiB("VmHWM:") - before);
 }
 
 int Print_row(const QString& format) {

@@ -40,34 +40,29 @@ std::unique_ptr<Project> Busiest_project(QSize canvas) {
 struct OpenMap {
     explicit OpenMap(const Scan& scan, QSize size = {10000, 10000})
         : project(Busiest_project(size)) {
-        project->BackgroundFile = scan.Path();
         view.resize(WindowSize);
         view.show();
-        view.Load_Background();
+        view.Show_image(scan.Path());
         Redraw();
     }
 
     void Redraw() {
-        Refresh_Graphics(*project, 500, view.Surface(), messages);
+        Refresh_Graphics(*project, 500, canvas.Surface(), messages);
         QCoreApplication::processEvents();
     }
 
     std::unique_ptr<Project> project;
     RecordingMessages messages;
-    MapView view{*project, messages};
+    MapView view;
     MapCanvas& canvas = *view.findChild<MapCanvas*>();
 };
 
 void Load(benchmark::State& state, const char* format) {
     const std::string& path = Scan::Large(format).Path();
     for (auto _ : state) {
-        Project project;
-        project.BackgroundFile = path;
-        RecordingMessages messages;
-        MapView view(project, messages);
+        MapView view;
         view.resize(WindowSize);
-        view.Load_Background();
-        if (!project.BackgroundLoaded) state.SkipWithError("not loaded");
+        if (!view.Show_image(path)) state.SkipWithError("not loaded");
     }
 }
 
@@ -158,9 +153,10 @@ void Uncover(benchmark::State& state) {
 
 void Move_mouse(benchmark::State& state) {
     OpenMap map(Window_sized(), WindowSize);
+    Session session;
     QLabel vtp, cell;
-    QObject::connect(&map.view, &MapView::Picture2_MouseMove, [&](float x, float y) {
-        const auto texts = Move_cursor(*map.project, x, y);
+    QObject::connect(&map.canvas, &MapCanvas::Mouse_moved, [&](float x, float y) {
+        const auto texts = Move_cursor(*map.project, session, x, y);
         vtp.setText(To_qt(texts->VTP));
         cell.setText(To_qt(texts->Cell));
     });

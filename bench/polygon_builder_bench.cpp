@@ -34,8 +34,8 @@ Coastlines Worst_cell() {
 }
 
 // A full project: coastlines far from the cell, with the cell's own in the middle of them.
-std::unique_ptr<Project> Full_project(const Coastlines& cell, CellPoint click) {
-    auto project = Cell_project("", click);
+std::unique_ptr<Project> Full_project(const Coastlines& cell) {
+    auto project = Cell_project("");
     std::size_t left = MaxVTPCount;
     for (const auto& line : cell) left -= line.size();
     std::vector<CellPoint> far;
@@ -48,10 +48,12 @@ std::unique_ptr<Project> Full_project(const Coastlines& cell, CellPoint click) {
 }
 
 void Build(benchmark::State& state, const Coastlines& cell) {
-    const auto project = Full_project(cell, {100, 200});
+    const auto project = Full_project(cell);
+    const Session session = Cell_session({100, 200});
     RecordingMessages messages;
     for (auto _ : state) {
-        const LWMPolyResult result = Add_LWM_Poly(*project, messages, HeightChoice::Conform, "");
+        const LWMPolyResult result =
+            Add_LWM_Poly(*project, session, messages, HeightChoice::Conform, "");
         if (!result.Added) state.SkipWithError("refused");
         project->LWMCount = 0;
     }
@@ -59,9 +61,9 @@ void Build(benchmark::State& state, const Coastlines& cell) {
 }
 
 void Ask_for_the_cell(benchmark::State& state, const Coastlines& cell) {
-    const auto project = Full_project(cell, {100, 200});
+    const auto project = Full_project(cell);
     RecordingMessages messages;
-    CellEdges edges(*project, messages);
+    CellEdges edges(*project, Cell_session(), messages);
     for (auto _ : state) {
         int in_cell = 0;
         for (int i = 1; i <= project->VTPCount; ++i)

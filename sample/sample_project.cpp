@@ -125,14 +125,15 @@ void Add_polygons(Project& project) {
     for (const auto& [type, where] : Polygon_clicks()) {
         const Position click = VTP_position(where);
         const auto [column, row] = Cell_of(click);
-        project.DrawMode = type;
-        project.CursorCellX = column;
-        project.CursorCellY = row;
-        project.CursorInCellX = click[0] - Cell_edge_VTP(column);
-        project.CursorInCellY = click[1] - Cell_edge_VTP(row);
+        Session session;
+        session.DrawMode = type;
+        session.CursorCellX = column;
+        session.CursorCellY = row;
+        session.CursorInCellX = click[0] - Cell_edge_VTP(column);
+        session.CursorInCellY = click[1] - Cell_edge_VTP(row);
         const bool water = type == WaterPolygon;
         const HeightChoice height = water ? HeightChoice::Explicit : HeightChoice::Conform;
-        const LWMPolyResult built = Add_LWM_Poly(project, messages, height, "0");
+        const LWMPolyResult built = Add_LWM_Poly(project, session, messages, height, "0");
         if (!built.Added || !built.StatusLine.empty())
             throw std::runtime_error("A click built another polygon: " + built.StatusLine);
     }

@@ -69,14 +69,15 @@ class Companion {
     // False when anything was refused.
     bool Write_files_of(const std::string& path) {
         Project project;
+        Session session;
         if (!Read_and_repair(path, project, files_, errors_)) return false;
         ConsoleMessages messages(errors_, path);
         project.VTPFileName = Output_path(task_, path, project, project.VTPFileName, "-VTP.asm");
         project.LWMFileName = Output_path(task_, path, project, project.LWMFileName, "-LWM.asm");
 
         const bool vtp_written = Write(path, project.VTPFileName, [&] {
-            VTP_file_write(project, messages, files_);
-            return !project.VTPWriteFailed;
+            VTP_file_write(project, session, messages, files_);
+            return !session.VTPWriteFailed;
         });
         const bool lwm_written = project.LWMCount == 0 || Write(path, project.LWMFileName, [&] {
                                      return LWM_file_write(project, messages, files_);

@@ -1,5 +1,6 @@
 #include "app/project_commands.h"
 
+#include "app/map_commands.h"
 #include "model/path_text.h"
 #include "model/project_file.h"
 
@@ -8,14 +9,13 @@ namespace tidemark {
 namespace {
 
 FileChooser Project_chooser(const Platform& platform, bool for_saving) {
-    FileChooser chooser;
-    chooser.Name = for_saving ? "SaveProject" : "OpenProject";
-    chooser.Title = for_saving ? "Tidemark - Save Project As" : "Tidemark - Open Project";
-    chooser.Filter = "*.TDM";
-    chooser.DefaultExtension = "TDM";
-    chooser.InitialFolder = platform.StartFolder;
-    chooser.ForSaving = for_saving;
-    return chooser;
+    return {.Name = for_saving ? "SaveProject" : "OpenProject",
+            .Title = for_saving ? "Tidemark - Save Project As" : "Tidemark - Open Project",
+            .Filter = "*.TDM",
+            .DefaultExtension = "TDM",
+            .FileName = "",
+            .InitialFolder = platform.StartFolder,
+            .ForSaving = for_saving};
 }
 
 // Whether every text of the project can be saved; says which one cannot.
@@ -33,17 +33,24 @@ std::string Refusal(const std::string& path, int line, const std::string& what) 
 
 }  // namespace
 
-bool Choose_project_to_save(Project& project, Platform& platform) {
+bool Choose_project_to_save(Document& document, Session& session, Platform& platform) {
     const auto path = platform.choosers.Choose(Project_chooser(platform, true));
     if (!path) return false;
-    std::string before = std::exchange(project.ProjectFile, *path);
-    if (Check_texts(project, platform.messages)) return true;
-    project.ProjectFile = std::move(before);
-    return false;
+    return document.Settle([&](Project& project) {
+        std::string before = std::exchange(project.ProjectFile, *path);
+        const bool can_be_saved = Check_texts(project, platform.messages);
+        if (can_be_saved)
+            session.Opened.Path = *path;
+        else
+            project.ProjectFile = std::move(before);
+        return can_be_saved;
+    });
 }
 
-bool Save_project(Project& project, Platform& platform) {
-    if (project.ProjectFile.empty() && !Choose_project_to_save(project, platform)) return false;
+bool Save_project(Document& document, Session& session, Platform& platform) {
+    const Project& project = document.Now();
+    if (project.ProjectFile.empty() && !Choose_project_to_save(document, session, platform))
+        return false;
     if (!Check_texts(project, platform.messages)) return false;
     const std::string& path = project.ProjectFile;
     if (platform.files.Exists(path) &&
@@ -57,7 +64,7 @@ bool Save_project(Project& project, Platform& platform) {
         return false;
     }
     Inform(platform.messages, "Tidemark - Saved OK", path + " saved successfully");
-    project.DataChanged = false;
+    document.Mark_saved();
     return true;
 }
 
@@ -65,16 +72,28 @@ std::optional<std::string> Choose_project_to_open(Platform& platform) {
     return platform.choosers.Choose(Project_chooser(platform, false));
 }
 
-OpenResult Open_project(const std::string& path, Project& project, Platform& platform) {
-    if (!platform.files.Exists(path)) {
-        project.ProjectFile = path;
-        Warn(platform.messages, path + " not found!");
-        return {};
-    }
-    std::string bytes;
-    const FileResult read = platform.files.Read(path, MaxProjectFileSize, bytes);
-    if (!read) return {false, Refusal(path, 1, read.Reason())};
+namespace {
 
+// What follows from a project that was read.
+void Take_over(const std::string& path, Project& project, Session& session, Messages& messages,
+               const ShowImage& show_image) {
+    session.Opened.Path = path;
+    session.Opened.Folder = Folder_part(path);
+    if (project.BackgroundLoaded) Load_background_file(project, session, messages, show_image);
+    session.Panel.LWMsave = session.Panel.VTPsave = project.PrefsSet;
+    Refresh_lists(project, session);
+    session.Opened.FileSave = true;
+}
+
+// Reads the file into the project; nothing but a line for the status bar when it is refused.
+struct Reading {
+    bool IsRead;
+    std::string Status;
+};
+Reading Read_file(const std::string& path, Project& project, Files& files) {
+    std::string bytes;
+    const FileResult read = files.Read(path, MaxProjectFileSize, bytes);
+    if (!read) return {false, Refusal(path, 1, read.Reason())};
     const ProjectFileReading reading = Read_project(bytes, project);
     if (reading.Error) return {false, Refusal(path, reading.Error->Line, reading.Error->What)};
     if (reading.EndedAtLine == 0) return {true, ""};
@@ -82,8 +101,27 @@ OpenResult Open_project(const std::string& path, Project& project, Platform& pla
                           "the file ends early; the values that are missing are 0, off or empty")};
 }
 
-bool May_exit(const Project& project, Messages& messages) {
-    return !project.DataChanged || Ask(messages, "Tidemark - Exit Warning",
+}  // namespace
+
+std::string Open_project(const std::string& path, Document& document, Session& session,
+                         Platform& platform, const ShowImage& show_image) {
+    if (!platform.files.Exists(path)) {
+        document.Do("open " + Last_part(path),
+                    [&](Project& project) { project.ProjectFile = path; });
+        Warn(platform.messages, path + " not found!");
+        return "";
+    }
+    const Reading reading = document.Do("open " + Last_part(path), [&](Project& project) {
+        Reading read = Read_file(path, project, platform.files);
+        if (read.IsRead) Take_over(path, project, session, platform.messages, show_image);
+        return read;
+    });
+    if (reading.IsRead) document.Mark_saved();
+    return reading.Status;
+}
+
+bool May_exit(const Session& session, Messages& messages) {
+    return !session.DataChanged || Ask(messages, "Tidemark - Exit Warning",
                                        "Data has not been saved - do you wish to exit?");
 }
 

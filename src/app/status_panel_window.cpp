@@ -32,12 +32,12 @@ QPushButton* Add_button(QHBoxLayout& row, const char* name, const QString& capti
 
 }  // namespace
 
-Status::Status(Project& project, Messages& messages, QWidget* owner)
+Status::Status(Document& document, Session& session, Messages& messages, QWidget* owner)
     : QWidget(owner, Qt::Tool),
       drawing_mode_(new DrawingModeFrame(this)),
-      vtp_(new VTPFrame(project, messages, this)),
-      lwm_(new LWMFrame(project, messages, this)),
-      kill_(new KillFrame(project, messages, this)) {
+      vtp_(new VTPFrame(document, session, messages, this)),
+      lwm_(new LWMFrame(document, session, messages, this)),
+      kill_(new KillFrame(document, session, messages, this)) {
     setObjectName("Status");
     setWindowTitle("Tidemark - Status Panel");
 
@@ -58,6 +58,15 @@ Status::Status(Project& project, Messages& messages, QWidget* owner)
 
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, vtp_, &VTPFrame::Start_new_segment);
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, lwm_, &LWMFrame::Mode_chosen);
+    connect(vtp_, &VTPFrame::Graphics_outdated, this, &Status::Graphics_outdated);
+    connect(lwm_, &LWMFrame::Graphics_outdated, this, &Status::Graphics_outdated);
+    connect(kill_, &KillFrame::Graphics_outdated, this, &Status::Graphics_outdated);
+}
+
+void Status::Refresh() {
+    vtp_->Refresh();
+    lwm_->Refresh();
+    kill_->Refresh();
 }
 
 void Status::Show_cursor(const QString& in_LOD8_cell, const QString& in_LOD13_cell) {

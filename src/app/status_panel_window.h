@@ -17,18 +17,22 @@ class Status : public QWidget {
     Q_OBJECT
 
   public:
-    Status(Project& project, Messages& messages, QWidget* owner);
+    Status(Document& document, Session& session, Messages& messages, QWidget* owner);
 
     DrawingModeFrame& Drawing_mode() { return *drawing_mode_; }
     VTPFrame& VTP() { return *vtp_; }
     LWMFrame& LWM() { return *lwm_; }
     KillFrame& Kill() { return *kill_; }
 
+    // Shows the three lists as they are now.
+    void Refresh();
+
     // The two lines that say where the cursor is.
     void Show_cursor(const QString& in_LOD8_cell, const QString& in_LOD13_cell);
 
   Q_SIGNALS:
     void RefreshButton_Click();
+    void Graphics_outdated();  // another line of a list was selected
     // The panel has got a new size, or its first one; the first drawing mode is then selected.
     void Resized();
 

@@ -27,8 +27,9 @@ struct TidemarkMain::MenuEntry {
     const char* Name;
     const char* Caption;  // "-": a separator line
     void (TidemarkMain::*Handler)() = nullptr;
-    bool StartsEnabled = true;
     QKeySequence::StandardKey Shortcut = QKeySequence::UnknownKey;
+    // Where an entry is kept that is enabled only in the course of time; it starts disabled.
+    QAction* ChangingEntries::*Kept = nullptr;
 };
 
 struct TidemarkMain::Menu {
@@ -39,25 +40,26 @@ struct TidemarkMain::Menu {
 
 const std::vector<TidemarkMain::Menu>& TidemarkMain::Menus() {
     using T = TidemarkMain;
-    constexpr bool off = false;
+    using E = ChangingEntries;
+    constexpr auto no_key = QKeySequence::UnknownKey;
     static const std::vector<Menu> menus{
         {"FileMenu",
          "&File",
-         {{"FileOpen", "&Open Project", &T::FileOpen_Click, true, QKeySequence::Open},
+         {{"FileOpen", "&Open Project", &T::FileOpen_Click, QKeySequence::Open},
           {"sep1", "-"},
-          {"FileSave", "&Save Project", &T::FileSave_Click, off, QKeySequence::Save},
-          {"FileSaveAs", "Save Project &As ...", &T::FileSaveAs_Click, true, QKeySequence::SaveAs},
+          {"FileSave", "&Save Project", &T::FileSave_Click, QKeySequence::Save, &E::FileSave},
+          {"FileSaveAs", "Save Project &As ...", &T::FileSaveAs_Click, QKeySequence::SaveAs},
           {"sep2", "-"},
-          {"FileExit", "E&xit", &T::FileExit_Click, true, QKeySequence::Quit}}},
+          {"FileExit", "E&xit", &T::FileExit_Click, QKeySequence::Quit}}},
         {"BackgroundMenu",
          "&Background",
          {{"BackgroundLoad", "&Load background image", &T::BackgroundLoad_Click},
           {"BackgroundProperties", "Change background &properties", &T::BackgroundProperties_Click,
-           off}}},
+           no_key, &E::BackgroundProperties}}},
         {"Output",
          "&Output",
-         {{"LWMsave", "Save &LWM data to file", &T::LWMsave_Click, off},
-          {"VTPsave", "Save &VTP data to file", &T::VTPsave_Click, off},
+         {{"LWMsave", "Save &LWM data to file", &T::LWMsave_Click, no_key, &E::LWMsave},
+          {"VTPsave", "Save &VTP data to file", &T::VTPsave_Click, no_key, &E::VTPsave},
           {"sep3", "-"},
           {"OutputPreferences", "&Preferences", &T::OutputPreferences_Click}}},
         {"HelpMenu",
@@ -74,18 +76,21 @@ const std::vector<TidemarkMain::Menu>& TidemarkMain::Menus() {
 }
 
 TidemarkMain::TidemarkMain()
-    : project_(std::make_unique<Project>()),
-      messages_(*this),
+    : messages_(*this),
       choosers_(*this),
       platform_{messages_, choosers_, files_, clock_, programs_, Path_from_qt(QDir::currentPath())},
-      map_(new MapView(*project_, messages_, this)),
-      status_(new Status(*project_, messages_, this)) {
+      map_(new MapView(this)),
+      status_(new Status(document_, session_, messages_, this)),
+      tool_bar_(new ToolBar(this)) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);
     Build_menus();
+    addToolBar(tool_bar_);
+    setContextMenuPolicy(Qt::NoContextMenu);  // of the tool bar, which is always there
     setCentralWidget(map_);
     statusBar();
+    Wire_tool_bar();
     Wire_map();
     Wire_status_panel();
     Form_Load();
@@ -102,7 +107,10 @@ void TidemarkMain::Build_menus() {
             QAction* const action =
                 is_separator ? shown->addSeparator() : shown->addAction(entry.Caption);
             action->setObjectName(entry.Name);
-            action->setEnabled(entry.StartsEnabled);
+            if (entry.Kept) {
+                action->setEnabled(false);
+                entries_.*entry.Kept = action;
+            }
             if (entry.Shortcut != QKeySequence::UnknownKey) action->setShortcuts(entry.Shortcut);
             if (entry.Handler) connect(action, &QAction::triggered, this, entry.Handler);
         }
@@ -110,20 +118,22 @@ void TidemarkMain::Build_menus() {
 }
 
 void TidemarkMain::Wire_map() {
-    connect(map_, &MapView::Background_shown, &Entry("BackgroundProperties"),
-            [this] { Entry("BackgroundProperties").setEnabled(true); });
-    connect(map_, &MapView::Graphics_outdated, this, &TidemarkMain::Refresh_Graphics);
-    connect(map_, &MapView::Picture2_MouseMove, this, &TidemarkMain::Picture2_MouseMove);
-    connect(map_, &MapView::Picture2_MouseDown, this, &TidemarkMain::Picture2_MouseDown);
-    connect(map_, &MapView::Picture2_KeyDown, this, &TidemarkMain::Picture2_KeyDown);
+    connect(map_, &MapView::Resized, this, &TidemarkMain::Reload_picture_later);
+    const MapCanvas* const canvas = &map_->Canvas();
+    connect(canvas, &MapCanvas::Mouse_moved, this, &TidemarkMain::Picture2_MouseMove);
+    connect(canvas, &MapCanvas::Mouse_pressed, this, &TidemarkMain::Picture2_MouseDown);
+    connect(canvas, &MapCanvas::Key_pressed, this, &TidemarkMain::Picture2_KeyDown);
+}
+
+void TidemarkMain::Wire_tool_bar() {
+    connect(&tool_bar_->EditUndo(), &QAction::triggered, this,
+            [this] { Travel(&Document::Undo, "Undone: ", document_.What_undo()); });
+    connect(&tool_bar_->EditRedo(), &QAction::triggered, this,
+            [this] { Travel(&Document::Redo, "Redone: ", document_.What_redo()); });
 }
 
 void TidemarkMain::Wire_status_panel() {
-    connect(status_, &Status::Resized, this, [this] {
-        // Afterwards, as the map does it.
-        if (project_->BackgroundLoaded)
-            QMetaObject::invokeMethod(this, &TidemarkMain::Status_Resize, Qt::QueuedConnection);
-    });
+    connect(status_, &Status::Resized, this, &TidemarkMain::Reload_picture_later);
     connect(&status_->VTP(), &VTPFrame::EditButton_clicked, this, &TidemarkMain::EditButton_Click);
     // The panel belongs to this window, whose shortcuts it has too.
     connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] {
@@ -132,17 +142,10 @@ void TidemarkMain::Wire_status_panel() {
         else
             ShowStatus_Click();
     });
-    const auto redraw = &TidemarkMain::Refresh_Graphics;
-    connect(status_, &Status::RefreshButton_Click, this, redraw);
-    connect(&status_->VTP(), &VTPFrame::Graphics_outdated, this, redraw);
-    connect(&status_->LWM(), &LWMFrame::Graphics_outdated, this, redraw);
-    connect(&status_->Kill(), &KillFrame::Graphics_outdated, this, redraw);
-    const QAction* const vtp_save = &Entry("VTPsave");
-    connect(&status_->VTP(), &VTPFrame::SaveEntry_changed, vtp_save, &QAction::setEnabled);
-    connect(&status_->Kill(), &KillFrame::SaveEntry_changed, vtp_save, &QAction::setEnabled);
+    connect(status_, &Status::RefreshButton_Click, this, &TidemarkMain::Refresh_Graphics);
+    connect(status_, &Status::Graphics_outdated, this, &TidemarkMain::Refresh_Graphics);
     connect(&status_->LWM(), &LWMFrame::Remarked, statusBar(),
             [this](const QString& text) { statusBar()->showMessage(text); });
-    connect(&status_->LWM(), &LWMFrame::SaveEntry_changed, &Entry("LWMsave"), &QAction::setEnabled);
 }
 
 // The two windows side by side, on the screen whatever its size.
@@ -164,6 +167,7 @@ void TidemarkMain::Form_Load() {
     status_->Drawing_mode().Select_mode(0);
     Place_windows();
     status_->show();
+    document_.Announce_to([this] { Show_project(); });
 }
 
 void TidemarkMain::FileOpen_Click() {
@@ -171,32 +175,20 @@ void TidemarkMain::FileOpen_Click() {
 }
 
 void TidemarkMain::Open(const QString& path) {
-    const std::string chosen = Path_from_qt(path);
-    const OpenResult result = Open_project(chosen, *project_, platform_);
-    statusBar()->showMessage(To_qt(result.Status));
-    if (!result.Opened) return;
-
-    Show_title(chosen);
-    map_->Set_project_folder(Folder_part(chosen));
-    if (project_->BackgroundLoaded) map_->Load_Background();
-    Entry("LWMsave").setEnabled(project_->PrefsSet);
-    Entry("VTPsave").setEnabled(project_->PrefsSet);
-    Refresh_lists();
-    Entry("FileSave").setEnabled(true);
-    project_->DataChanged = false;
+    const std::string status =
+        Open_project(Path_from_qt(path), document_, session_, platform_, Screen().Show_image);
+    statusBar()->showMessage(To_qt(status));
 }
 
 void TidemarkMain::FileSave_Click() {
-    const std::string before = project_->ProjectFile;
-    Save_project(*project_, platform_);
-    if (project_->ProjectFile != before) Show_title(project_->ProjectFile);
+    Save_project(document_, session_, platform_);
     Refresh_Graphics();
 }
 
 void TidemarkMain::FileSaveAs_Click() {
-    if (!Choose_project_to_save(*project_, platform_)) return;
-    Entry("FileSave").setEnabled(true);
-    Show_title(project_->ProjectFile);
+    if (!Choose_project_to_save(document_, session_, platform_)) return;
+    session_.Opened.FileSave = true;
+    Show_project();
     FileSave_Click();
 }
 
@@ -205,12 +197,15 @@ void TidemarkMain::FileExit_Click() {
 }
 
 void TidemarkMain::LWMsave_Click() {
-    if (Save_LWM_file(*project_, messages_, files_)) Run_after_save(LWM_after_save(*project_));
+    const Project& project = document_.Now();
+    if (Save_LWM_file(project, messages_, files_)) Run_after_save(LWM_after_save(project));
     Refresh_Graphics();
 }
 
 void TidemarkMain::VTPsave_Click() {
-    if (Save_VTP_file(*project_, messages_, files_)) Run_after_save(VTP_after_save(*project_));
+    const Project& project = document_.Now();
+    if (Save_VTP_file(project, session_, messages_, files_))
+        Run_after_save(VTP_after_save(project));
     Refresh_Graphics();
 }
 
@@ -223,12 +218,10 @@ void TidemarkMain::Run_after_save(const AfterSaveTask& task) {
 
 void TidemarkMain::OutputPreferences_Click() {
     Preferences dialog(platform_, this);
-    if (const auto confirmed = dialog.Ask(Shown_preferences(*project_))) {
-        Store_preferences(*confirmed, *project_);
-        Entry("LWMsave").setEnabled(true);
-        Entry("VTPsave").setEnabled(true);
-    }
-    Refresh_Graphics();
+    if (const auto confirmed = dialog.Ask(Shown_preferences(document_.Now())))
+        Confirm_preferences(document_, session_, *confirmed);
+    else
+        Refresh_Graphics();
 }
 
 void TidemarkMain::ShowStatus_Click() {
@@ -258,16 +251,8 @@ void TidemarkMain::HelpAbout_Click() {
     Refresh_Graphics();
 }
 
-QAction& TidemarkMain::Entry(const char* name) const {
-    return *findChild<QAction*>(name);
-}
-
-void TidemarkMain::Show_title(const std::string& project_path) {
-    setWindowTitle("Tidemark - " + To_qt(Last_part(project_path)).toUpper());
-}
-
 void TidemarkMain::closeEvent(QCloseEvent* event) {
-    event->setAccepted(May_exit(*project_, messages_));
+    event->setAccepted(May_exit(session_, messages_));
     if (event->isAccepted()) status_->hide();
 }
 
@@ -296,7 +281,7 @@ void TidemarkMain::dropEvent(QDropEvent* event) {
     // Later, so that the program it was dragged from does not wait for the boxes that may come up.
     // A slip of the hand on the way to another window is not a wish to lose anything.
     QTimer::singleShot(0, this, [this, path] {
-        if (May_clear_project(*project_, messages_)) Open(path);
+        if (May_clear_project(session_, messages_)) Open(path);
     });
 }
 

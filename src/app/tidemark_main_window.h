@@ -6,10 +6,13 @@
 #include <QAction>
 #include <QMainWindow>
 
+#include "app/map_commands.h"
 #include "app/status_panel_window.h"
+#include "app/tool_bar_window.h"
 #include "canvas/map_view_window.h"
+#include "georef/background_properties_window.h"
 #include "georef/cell_calculator_window.h"
-#include "model/project.h"
+#include "model/document.h"
 #include "output/after_save.h"
 #include "output/help.h"
 #include "platform/platform.h"
@@ -29,7 +32,9 @@ class TidemarkMain : public QMainWindow {
     // As File > Open with this path chosen.
     void Open(const QString& path);
 
-    const Project& Current_project() const { return *project_; }
+    const Project& Current_project() const { return document_.Now(); }
+    const Document& Current_document() const { return document_; }
+    const Session& Current_session() const { return session_; }
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -41,9 +46,15 @@ class TidemarkMain : public QMainWindow {
     struct Menu;
     static const std::vector<Menu>& Menus();
 
+    // The entries that are enabled and disabled in the course of time.
+    struct ChangingEntries {
+        QAction *FileSave, *BackgroundProperties, *LWMsave, *VTPsave;
+    };
+
     // Start-up, in tidemark_main_window.cpp.
     void Build_menus();
     void Wire_map();
+    void Wire_tool_bar();
     void Wire_status_panel();
     void Place_windows();
     void Form_Load();
@@ -65,34 +76,42 @@ class TidemarkMain : public QMainWindow {
     void BackgroundLoad_Click();
     void BackgroundProperties_Click();
     void CellCalc_Click();
-    void Status_Resize();
+    void Reload_picture();
+    void Reload_picture_later();
+    void Travel(void (Document::*where)(), const char* said, const std::string& step);
     void Picture2_MouseMove(float x, float y);
     void Picture2_MouseDown(int button);
     void Picture2_KeyDown(int key_code);
     void Left_click();
     void Select_point();
     void EditButton_Click();
-    void Refresh_lists();
+    void Show_project();
+    void Show_title();
+    void Show_picture();
     void Refresh_Graphics();
 
-    QAction& Entry(const char* name) const;
+    MapScreen Screen();
     EditPoint& Edit_point_dialog();
+    BGproperties& Background_properties();
     CellCalculator& Calculator();
-    void Show_title(const std::string& project_path);
     void Run_after_save(const AfterSaveTask& task);
     void Show_help_document(const HelpDocument& document);
 
-    std::unique_ptr<Project> project_;
+    Session session_;
+    Document document_{session_};
     QtMessages messages_;
     QtChoosers choosers_;
     DiskFiles files_;
     SystemClock clock_;
     SystemPrograms programs_;
     Platform platform_;
+    ChangingEntries entries_{};
     MapView* map_;
     Status* status_;
+    ToolBar* tool_bar_;
     // Made when they are first used, so that start-up does not wait for them; kept from then on.
     EditPoint* edit_point_ = nullptr;
+    BGproperties* background_properties_ = nullptr;
     CellCalculator* calculator_ = nullptr;
     bool redrawing_ = false;
 };

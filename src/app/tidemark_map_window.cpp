@@ -1,44 +1,55 @@
 // The main window's handlers for the map and what is done on it.
 #include <QScopeGuard>
+#include <QStatusBar>
 
+#include "app/project_commands.h"
 #include "app/tidemark_main_window.h"
-#include "canvas/background.h"
 #include "canvas/click.h"
 #include "canvas/map_frame.h"
 #include "canvas/refresh_graphics.h"
-#include "georef/background_properties_window.h"
+#include "model/path_text.h"
 #include "platform/qt_keys.h"
 #include "platform/qt_text.h"
+#include "vtp_edit/vtp_commands.h"
 
 namespace tidemark {
 
+MapScreen TidemarkMain::Screen() {
+    return {[this](const std::string& path) { return map_->Show_image(path); },
+            [this] {
+                const QSize size = map_->Canvas_size();
+                return ViewSize{size.width(), size.height()};
+            },
+            [this](const GeoreferenceTexts& texts) { return Background_properties().Ask(texts); }};
+}
+
 void TidemarkMain::BackgroundLoad_Click() {
-    if (Choose_background(*project_, messages_, choosers_, platform_.StartFolder)) {
-        map_->Load_Background();
-        BackgroundProperties_Click();
-    }
-    Refresh_lists();
+    Load_background(document_, session_, platform_, Screen());
 }
 
 void TidemarkMain::BackgroundProperties_Click() {
-    Show_background_properties(*project_, messages_, Calculator(), map_->Canvas_size(), this);
-    Refresh_Graphics();
+    Change_background_properties(document_, messages_, Screen());
 }
 
 void TidemarkMain::CellCalc_Click() {
-    project_->CalcFromBGproperties = false;
+    session_.CalcFromBGproperties = false;
     Calculator().exec();
     Refresh_Graphics();
 }
 
-void TidemarkMain::Status_Resize() {
-    if (!project_->BackgroundLoaded) return;
-    map_->Load_Background();
-    Refresh_Graphics();
+// Afterwards: a box that comes up must not wait for its answer in the middle of a resize.
+void TidemarkMain::Reload_picture_later() {
+    if (document_.Now().BackgroundLoaded)
+        QMetaObject::invokeMethod(this, &TidemarkMain::Reload_picture, Qt::QueuedConnection);
+}
+
+void TidemarkMain::Reload_picture() {
+    if (document_.Now().BackgroundLoaded)
+        Reload_background(document_, session_, messages_, Screen().Show_image);
 }
 
 void TidemarkMain::Picture2_MouseMove(float x, float y) {
-    if (const auto texts = Move_cursor(*project_, x, y))
+    if (const auto texts = Move_cursor(document_.Now(), session_, x, y))
         status_->Show_cursor(To_qt(texts->VTP), To_qt(texts->Cell));
 }
 
@@ -49,7 +60,8 @@ void TidemarkMain::Picture2_MouseDown(int button) {
 }
 
 void TidemarkMain::Left_click() {
-    const auto adds = Take_left_click(*project_, status_->Drawing_mode().Item(), messages_);
+    const auto adds =
+        Take_left_click(document_.Now(), session_, status_->Drawing_mode().Item(), messages_);
     if (!adds) return;
     switch (*adds) {
         case Adds::Point:
@@ -65,37 +77,74 @@ void TidemarkMain::Left_click() {
 }
 
 void TidemarkMain::Select_point() {
-    const auto nearest = Nearest_point(*project_);
+    const auto nearest = Nearest_point(document_.Now(), session_);
     if (!nearest) return;
-    status_->VTP().Select(*nearest - 1);
+    session_.Panel.SelectedPoint = *nearest - 1;
+    status_->VTP().Refresh();
     Refresh_Graphics();
 }
 
 void TidemarkMain::Picture2_KeyDown(int key_code) {
-    if (key_code == KeyDelete) status_->VTP().VTPlistbox_KeyDown(key_code);
+    if (key_code == KeyDelete) Delete_selected_point(document_, session_);
     if (key_code == KeyE) EditButton_Click();
 }
 
 void TidemarkMain::EditButton_Click() {
-    const int selected = status_->VTP().Selected();
-    if (selected < 0 || !Edit_point_dialog().Edit(selected + 1)) return;
-    status_->VTP().Refresh_VTP_List();
+    const int selected = session_.Panel.SelectedPoint;
+    if (selected >= 0) Edit_point_dialog().Edit(selected + 1);
+}
+
+void TidemarkMain::Travel(void (Document::*where)(), const char* said, const std::string& step) {
+    (document_.*where)();
+    statusBar()->showMessage(said + To_qt(step));
 }
 
 EditPoint& TidemarkMain::Edit_point_dialog() {
-    if (!edit_point_) edit_point_ = new EditPoint(*project_, messages_, this);
+    if (!edit_point_) edit_point_ = new EditPoint(document_, session_, messages_, this);
     return *edit_point_;
 }
 
+BGproperties& TidemarkMain::Background_properties() {
+    if (!background_properties_)
+        background_properties_ = new BGproperties(session_, Calculator(), this);
+    return *background_properties_;
+}
+
 CellCalculator& TidemarkMain::Calculator() {
-    if (!calculator_) calculator_ = new CellCalculator(*project_, messages_, this);
+    if (!calculator_) calculator_ = new CellCalculator(session_, messages_, this);
     return *calculator_;
 }
 
-void TidemarkMain::Refresh_lists() {
-    status_->VTP().Refresh_VTP_List();
-    status_->LWM().Refresh_LWM_List();
-    status_->Kill().Refresh_Kill_List();
+// The one place that shows what a step has made of the project.
+void TidemarkMain::Show_project() {
+    status_->Refresh();
+    const OpenedState& opened = session_.Opened;
+    Show_title();
+    entries_.FileSave->setEnabled(opened.FileSave);
+    entries_.LWMsave->setEnabled(session_.Panel.LWMsave);
+    entries_.VTPsave->setEnabled(session_.Panel.VTPsave);
+    Show_picture();
+    entries_.BackgroundProperties->setEnabled(!opened.Picture.empty());
+    tool_bar_->Show_history(document_);
+    Refresh_Graphics();
+}
+
+void TidemarkMain::Show_title() {
+    const std::string& path = session_.Opened.Path;
+    if (path.empty()) return setWindowTitle("Tidemark");
+    // A window's title has "[*]" for its own use; twice, it stands for itself.
+    const QString name = To_qt(Last_part(path)).toUpper().replace("[*]", "[*][*]");
+    setWindowTitle("Tidemark - " + name);
+}
+
+// Only undoing and redoing leave another picture on the screen than the session's.
+void TidemarkMain::Show_picture() {
+    std::string& picture = session_.Opened.Picture;
+    if (picture == map_->Shown_file()) return;
+    if (picture.empty())
+        map_->Show_nothing();
+    else if (!map_->Show_image(picture))
+        picture = map_->Shown_file();  // it has been moved away meanwhile
 }
 
 // A box that comes up in the middle of a redraw lets other events through, which may ask for
@@ -104,7 +153,8 @@ void TidemarkMain::Refresh_Graphics() {
     if (redrawing_) return;
     redrawing_ = true;
     const auto done = qScopeGuard([this] { redrawing_ = false; });
-    tidemark::Refresh_Graphics(*project_, status_->VTP().Selected(), map_->Surface(), messages_);
+    tidemark::Refresh_Graphics(document_.Now(), session_.Panel.SelectedPoint,
+                               map_->Canvas().Surface(), messages_);
 }
 
 }  // namespace tidemark

@@ -10,48 +10,48 @@ namespace {
 void Clear_project(Project& p) {
     p.BGLOD8X = p.BGLOD8Y = 0;
     p.BGLOD13tlX = p.BGLOD13tlY = p.BGLOD13brX = p.BGLOD13brY = 0;
-    p.DataChanged = false;
     p.VTPCount = p.LWMCount = p.KillCount = 0;
 }
 
 }  // namespace
 
-bool May_clear_project(const Project& project, Messages& messages) {
-    return !project.DataChanged ||
+bool May_clear_project(const Session& session, Messages& messages) {
+    return !session.DataChanged ||
            Ask(messages, "Tidemark - Load warning",
                "This will clear all of your current data - do you wish to continue?");
 }
 
-bool Choose_background(Project& project, Messages& messages, Choosers& choosers,
-                       const std::string& start_folder) {
-    if (!May_clear_project(project, messages)) return false;
-    if (project.DataChanged) Clear_project(project);
-    FileChooser chooser;
-    chooser.Name = "LoadBMPdialog";
-    chooser.Title = "Tidemark - Open background image";
-    chooser.Filter = "*.BMP;*.GIF;*.JPG";
-    chooser.FileName = project.BackgroundFile;
-    chooser.InitialFolder = start_folder;
-    const auto path = choosers.Choose(chooser);
+bool Choose_background(Project& project, Session& session, Platform& platform) {
+    if (!May_clear_project(session, platform.messages)) return false;
+    if (session.DataChanged) Clear_project(project);
+    session.DataChanged = false;
+    const auto path = platform.choosers.Choose({.Name = "LoadBMPdialog",
+                                                .Title = "Tidemark - Open background image",
+                                                .Filter = "*.BMP;*.GIF;*.JPG",
+                                                .DefaultExtension = "",
+                                                .FileName = project.BackgroundFile,
+                                                .InitialFolder = platform.StartFolder});
     if (!path) return false;
     if (!Is_savable(*path)) {
-        Warn(messages, UnsavableNameText);
+        Warn(platform.messages, UnsavableNameText);
         return false;
     }
     project.BackgroundFile = *path;
     return true;
 }
 
-void Load_background_file(Project& project, Messages& messages, const std::string& project_folder,
+void Load_background_file(Project& project, Session& session, Messages& messages,
                           const ShowImage& show_image) {
     project.BackgroundLoaded = false;
     const std::string& name = project.BackgroundFile;
-    if (!show_image(name) && (Is_full_path(name) || !show_image(project_folder + name))) {
-        Warn(messages, "An error occurred when trying to load " + name);
-        return;
-    }
+    std::string path = name;
+    bool is_shown = show_image(path);
+    if (!is_shown && !Is_full_path(name))
+        is_shown = show_image(path = session.Opened.Folder + name);
+    if (!is_shown) return Warn(messages, "An error occurred when trying to load " + name);
+    session.Opened.Picture = path;
     project.BackgroundLoaded = true;
-    project.DataChanged = true;
+    session.DataChanged = true;
 }
 
 }  // namespace tidemark

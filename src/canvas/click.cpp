@@ -2,15 +2,15 @@
 
 namespace tidemark {
 
-std::optional<Adds> Take_left_click(Project& project, std::string_view mode_item,
-                                    Messages& messages) {
-    project.DataChanged = true;
+std::optional<Adds> Take_left_click(const Project& project, Session& session,
+                                    std::string_view mode_item, Messages& messages) {
+    session.DataChanged = true;
     const DrawingMode* const mode = Find_mode(mode_item);
     if (!mode) {
         Plain_box(messages, "Unknown drawing mode case encountered.");
         return std::nullopt;
     }
-    project.DrawMode = mode->Code;
+    session.DrawMode = mode->Code;
     // The cursor has never been anywhere on such a map.
     const bool has_scale = project.ScaleX > 0 && project.ScaleY > 0;
     return has_scale ? std::optional(mode->What) : std::nullopt;

@@ -6,6 +6,7 @@
 
 #include "model/drawing_modes.h"
 #include "model/project.h"
+#include "model/session.h"
 #include "platform/messages.h"
 
 namespace tidemark {
@@ -13,7 +14,7 @@ namespace tidemark {
 // Takes a left click in the drawing mode of this item text: sets DataChanged, whatever comes of the
 // click, and DrawMode. Returns what is to be added at the cursor: nothing in a mode that does not
 // exist, which the plain box reports, and nothing on a map without scale.
-std::optional<Adds> Take_left_click(Project& project, std::string_view mode_item,
-                                    Messages& messages);
+std::optional<Adds> Take_left_click(const Project& project, Session& session,
+                                    std::string_view mode_item, Messages& messages);
 
 }  // namespace tidemark

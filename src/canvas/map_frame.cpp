@@ -41,7 +41,7 @@ CanvasPoint Cell_to_canvas(const Project& project, Int16 column, Int16 row, Int1
             Pixels((row - project.BGLOD13tlY) * CellSizeVTP + y, project.ScaleY)};
 }
 
-std::optional<CursorTexts> Move_cursor(Project& p, float x, float y) {
+std::optional<CursorTexts> Move_cursor(const Project& p, Session& session, float x, float y) {
     if (!(p.ScaleX > 0 && p.ScaleY > 0)) return std::nullopt;
     AxisCursor across, down;
     try {
@@ -50,26 +50,27 @@ std::optional<CursorTexts> Move_cursor(Project& p, float x, float y) {
     } catch (const Overflow&) {
         return std::nullopt;  // a box for every pixel that the mouse travels would help nobody
     }
-    p.CursorOffsetX = across.Offset;
-    p.CursorOffsetY = down.Offset;
-    p.CursorVTPX = across.VTP;
-    p.CursorVTPY = down.VTP;
-    p.CursorInCellX = across.InCell;
-    p.CursorInCellY = down.InCell;
-    p.CursorCellX = across.Cell;
-    p.CursorCellY = down.Cell;
-    return CursorTexts{Blank_text(p.CursorVTPX) + "," + Blank_text(p.CursorVTPY),
-                       "[ " + Int_text(p.CursorCellX) + ", " + Int_text(p.CursorCellY) + " ] " +
-                           Blank_text(p.CursorInCellX) + "," + Blank_text(p.CursorInCellY)};
+    session.CursorOffsetX = across.Offset;
+    session.CursorOffsetY = down.Offset;
+    session.CursorVTPX = across.VTP;
+    session.CursorVTPY = down.VTP;
+    session.CursorInCellX = across.InCell;
+    session.CursorInCellY = down.InCell;
+    session.CursorCellX = across.Cell;
+    session.CursorCellY = down.Cell;
+    return CursorTexts{Blank_text(session.CursorVTPX) + "," + Blank_text(session.CursorVTPY),
+                       "[ " + Int_text(session.CursorCellX) + ", " + Int_text(session.CursorCellY) +
+                           " ] " + Blank_text(session.CursorInCellX) + "," +
+                           Blank_text(session.CursorInCellY)};
 }
 
-std::optional<int> Nearest_point(const Project& project) {
+std::optional<int> Nearest_point(const Project& project, const Session& session) {
     std::optional<int> nearest;
     std::int64_t least = std::numeric_limits<std::int64_t>::max();
     for (int i = 1; i <= project.VTPCount; ++i) {
         // Whole squares order the points exactly as their roots would.
-        const std::int64_t distance = Square(project.CursorVTPX - project.VTPPoint(i, 0)) +
-                                      Square(project.CursorVTPY - project.VTPPoint(i, 1));
+        const std::int64_t distance = Square(session.CursorVTPX - project.VTPPoint(i, 0)) +
+                                      Square(session.CursorVTPY - project.VTPPoint(i, 1));
         if (distance >= least) continue;
         least = distance;
         nearest = i;

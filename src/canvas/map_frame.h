@@ -9,6 +9,7 @@
 #include <string>
 
 #include "model/project.h"
+#include "model/session.h"
 #include "platform/drawing_surface.h"
 
 namespace tidemark {
@@ -25,12 +26,12 @@ struct CursorTexts {
     std::string Cell;  // such as "[ 12, 7 ]  100, 37"
 };
 
-// Sets the project's cursor values from a canvas pixel. A map without scale and a pixel whose
+// Sets the session's cursor values from a canvas pixel. A map without scale and a pixel whose
 // position does not fit 16 bits leave them as they are and give nothing.
-std::optional<CursorTexts> Move_cursor(Project& project, float x, float y);
+std::optional<CursorTexts> Move_cursor(const Project& project, Session& session, float x, float y);
 
 // The number of the VTP point nearest to the cursor, the lowest of equally near ones; nothing in a
 // project without points.
-std::optional<int> Nearest_point(const Project& project);
+std::optional<int> Nearest_point(const Project& project, const Session& session);
 
 }  // namespace tidemark

@@ -7,7 +7,6 @@
 #include <QStyle>
 #include <QWheelEvent>
 
-#include "canvas/background.h"
 #include "canvas/qt_image_file.h"
 #include "platform/qt_text.h"
 
@@ -51,10 +50,8 @@ void Lay_out_bar(QScrollBar& bar, const ScrollBarLayout& layout, int page) {
 
 }  // namespace
 
-MapView::MapView(Project& project, Messages& messages, QWidget* parent)
+MapView::MapView(QWidget* parent)
     : QWidget(parent),
-      project_(project),
-      messages_(messages),
       BeginLabel_(new QLabel(
           "To begin, choose Background > Load background image, or File > Open Project.", this)),
       Picture1_(new QWidget(this)),
@@ -73,15 +70,6 @@ MapView::MapView(Project& project, Messages& messages, QWidget* parent)
     setTabOrder(VScroll1_, HScroll1_);
     connect(HScroll1_, &QScrollBar::valueChanged, this, &MapView::HScroll1_Change);
     connect(VScroll1_, &QScrollBar::valueChanged, this, &MapView::VScroll1_Change);
-    connect(Picture2_, &MapCanvas::Mouse_moved, this, &MapView::Picture2_MouseMove);
-    connect(Picture2_, &MapCanvas::Mouse_pressed, this, &MapView::Picture2_MouseDown);
-    connect(Picture2_, &MapCanvas::Key_pressed, this, &MapView::Picture2_KeyDown);
-}
-
-void MapView::Load_Background() {
-    Load_background_file(project_, messages_, project_folder_,
-                         [this](const std::string& path) { return Show_image(path); });
-    if (project_.BackgroundLoaded) Q_EMIT Background_shown();
 }
 
 bool MapView::Show_image(const std::string& path) {
@@ -93,8 +81,20 @@ bool MapView::Show_image(const std::string& path) {
         shown_file_ = state;
     }
     const auto layout = Layout_for(Picture2_->size());
-    if (layout) Lay_out(*layout);
-    return layout.has_value();
+    if (!layout) return false;
+    Lay_out(*layout);
+    shown_path_ = path;
+    return true;
+}
+
+void MapView::Show_nothing() {
+    shown_file_ = {};
+    shown_path_.clear();
+    Picture2_->Show_image({});
+    for (QWidget* const part :
+         {Picture1_, static_cast<QWidget*>(HScroll1_), static_cast<QWidget*>(VScroll1_)})
+        part->hide();
+    BeginLabel_->show();
 }
 
 bool MapView::Decode(const QString& path) {
@@ -132,15 +132,7 @@ void MapView::VScroll1_Change(int value) {
 
 void MapView::resizeEvent(QResizeEvent*) {
     BeginLabel_->setGeometry(rect());
-    // Afterwards: a box that comes up must not wait for its answer in the middle of a resize.
-    if (project_.BackgroundLoaded)
-        QMetaObject::invokeMethod(this, &MapView::Form_Resize, Qt::QueuedConnection);
-}
-
-void MapView::Form_Resize() {
-    if (!project_.BackgroundLoaded) return;
-    Load_Background();
-    Q_EMIT Graphics_outdated();
+    Q_EMIT Resized();
 }
 
 // The wheel turned over the map turns the bar of its direction.

@@ -10,10 +10,6 @@
 
 #include "canvas/map_canvas_window.h"
 #include "canvas/view_layout.h"
-#include "model/project.h"
-#include "platform/messages.h"
-
-class QFileInfo;
 
 namespace tidemark {
 
@@ -22,28 +18,24 @@ class MapView : public QWidget {
     Q_OBJECT
 
   public:
-    MapView(Project& project, Messages& messages, QWidget* parent = nullptr);
+    explicit MapView(QWidget* parent = nullptr);
 
-    // Shows BackgroundFile from its top-left corner; a file that is shown already is decoded again
-    // only when it has changed. A failure is told, and the view stays as it is. The caller has the
-    // graphics drawn afterwards.
-    void Load_Background();
-
-    // Where a BackgroundFile that is no full path may lie: the folder of the opened project, with
-    // its last separator.
-    void Set_project_folder(std::string folder) { project_folder_ = std::move(folder); }
+    // Shows the image of a file from its top-left corner; a file that is shown already is decoded
+    // again only when it has changed. False when it cannot be shown; the view then stays as it is.
+    bool Show_image(const std::string& path);
+    // Back to the empty view.
+    void Show_nothing();
+    // Of the image that is shown; empty when there is none.
+    const std::string& Shown_file() const { return shown_path_; }
 
     // The image's size in pixels; 0 x 0 before the first one.
     QSize Canvas_size() const { return Picture2_->size(); }
 
-    DrawingSurface& Surface() { return Picture2_->Surface(); }
+    // Where the mouse and the keys arrive, and what is drawn on.
+    MapCanvas& Canvas() { return *Picture2_; }
 
   Q_SIGNALS:
-    void Background_shown();   // an image was loaded: its properties can be changed
-    void Graphics_outdated();  // the view has got a new size and the map has to be drawn again
-    void Picture2_MouseMove(float x, float y);  // canvas pixels
-    void Picture2_MouseDown(int button);        // 1 left, 2 right, 4 middle
-    void Picture2_KeyDown(int key_code);        // as in qt_keys.h
+    void Resized();  // the view has got a new size
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -58,22 +50,18 @@ class MapView : public QWidget {
         bool operator==(const FileState&) const = default;
     };
 
-    bool Show_image(const std::string& path);
     bool Decode(const QString& path);
     std::optional<ViewLayout> Layout_for(QSize image) const;
     void Lay_out(const ViewLayout& layout);
-    void Form_Resize();
     void HScroll1_Change(int value);
     void VScroll1_Change(int value);
 
-    Project& project_;
-    Messages& messages_;
     QLabel* BeginLabel_;
     QWidget* Picture1_;    // the viewport
     MapCanvas* Picture2_;  // the canvas
     QScrollBar *HScroll1_, *VScroll1_;
+    std::string shown_path_;
     FileState shown_file_;
-    std::string project_folder_;
 };
 
 }  // namespace tidemark

@@ -43,9 +43,9 @@ QLabel* Place_label(const char* name) {
 
 }  // namespace
 
-BGproperties::BGproperties(Project& project, CellCalculator& calculator, QWidget* owner)
+BGproperties::BGproperties(Session& session, CellCalculator& calculator, QWidget* owner)
     : QDialog(owner),
-      project_(project),
+      session_(session),
       calculator_(calculator),
       LatLabel_(Place_label("LatLabel")),
       LonLabel_(Place_label("LonLabel")),
@@ -139,21 +139,13 @@ void BGproperties::reject() {
 }
 
 void BGproperties::ShowCalc_Click() {
-    project_.CalcFromBGproperties = true;
+    session_.CalcFromBGproperties = true;
     calculator_.exec();
 }
 
 void BGproperties::Copy_cell(const LOD8Cell& cell) {
     fields_[LOD8X]->setText(To_qt(Int_text(cell.X)));
     fields_[LOD8Y]->setText(To_qt(Int_text(cell.Y)));
-}
-
-void Show_background_properties(Project& project, Messages& messages, CellCalculator& calculator,
-                                QSize canvas, QWidget* owner) {
-    BGproperties dialog(project, calculator, owner);
-    Ask_background_properties(
-        project, [&dialog](const GeoreferenceTexts& texts) { return dialog.Ask(texts); },
-        canvas.width(), canvas.height(), messages);
 }
 
 }  // namespace tidemark

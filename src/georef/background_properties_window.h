@@ -17,7 +17,7 @@ class BGproperties : public QDialog {
     Q_OBJECT
 
   public:
-    BGproperties(Project& project, CellCalculator& calculator, QWidget* owner = nullptr);
+    BGproperties(Session& session, CellCalculator& calculator, QWidget* owner = nullptr);
 
     // Shows the dialog with these texts in its fields and returns, when it has been closed, what
     // stands in them then.
@@ -34,16 +34,11 @@ class BGproperties : public QDialog {
     void ShowCalc_Click();
     void Copy_cell(const LOD8Cell& cell);
 
-    Project& project_;
+    Session& session_;
     CellCalculator& calculator_;
     std::array<QLineEdit*, GeoreferenceFields.size()> fields_;  // in the order of the table
     QLabel *LatLabel_, *LonLabel_;
     QLabel *HiddenLat_, *HiddenLon_;  // never shown
 };
-
-// Asks for the background's place in the world until the values are right, and stores them with
-// all that follows from them. `canvas` is the image's size in pixels.
-void Show_background_properties(Project& project, Messages& messages, CellCalculator& calculator,
-                                QSize canvas, QWidget* owner);
 
 }  // namespace tidemark

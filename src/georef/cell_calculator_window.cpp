@@ -22,9 +22,9 @@ QComboBox* Hemispheres(const char* name, const char* spoken, const QStringList& 
 
 }  // namespace
 
-CellCalculator::CellCalculator(const Project& project, Messages& messages, QWidget* owner)
+CellCalculator::CellCalculator(const Session& session, Messages& messages, QWidget* owner)
     : QDialog(owner),
-      project_(project),
+      session_(session),
       messages_(messages),
       CalcLatText_(Named_field("CalcLatText", "Latitude", To_qt(LatitudeTemplate))),
       NScombo_(Hemispheres("NScombo", "North or south", {"N", "S"})),
@@ -66,7 +66,7 @@ void CellCalculator::CalcButton_Click() {
     CalcLatText_->setText(To_qt(texts.Latitude));
     CalcLonText_->setText(To_qt(texts.Longitude));
     if (!cell) return;
-    if (Report_cell(*cell, project_.CalcFromBGproperties, messages_)) Q_EMIT Copy_wanted(*cell);
+    if (Report_cell(*cell, session_.CalcFromBGproperties, messages_)) Q_EMIT Copy_wanted(*cell);
     accept();
 }
 

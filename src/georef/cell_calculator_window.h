@@ -6,7 +6,7 @@
 #include <QLineEdit>
 
 #include "georef/cell_calculator.h"
-#include "model/project.h"
+#include "model/session.h"
 
 namespace tidemark {
 
@@ -16,7 +16,7 @@ class CellCalculator : public QDialog {
     Q_OBJECT
 
   public:
-    CellCalculator(const Project& project, Messages& messages, QWidget* owner = nullptr);
+    CellCalculator(const Session& session, Messages& messages, QWidget* owner = nullptr);
 
   Q_SIGNALS:
     void Copy_wanted(const LOD8Cell& cell);
@@ -25,7 +25,7 @@ class CellCalculator : public QDialog {
     void Lay_out();
     void CalcButton_Click();
 
-    const Project& project_;
+    const Session& session_;
     Messages& messages_;
     QLineEdit* CalcLatText_;
     QComboBox* NScombo_;

@@ -31,11 +31,11 @@ CellPoint Crossing(CellPoint a, CellPoint outside, Int16 ddx, Int16 ddy) {
 
 }  // namespace
 
-CellEdges::CellEdges(Project& project, Messages& messages)
+CellEdges::CellEdges(Project& project, const Session& session, Messages& messages)
     : project_(project),
       messages_(messages),
-      column_(project.CursorCellX - project.BGLOD13tlX),
-      row_(project.CursorCellY - project.BGLOD13tlY) {}
+      column_(session.CursorCellX - project.BGLOD13tlX),
+      row_(session.CursorCellY - project.BGLOD13tlY) {}
 
 bool CellEdges::Point_in_cell(int i) {
     if (i < 1 || i > project_.VTPCount) return false;

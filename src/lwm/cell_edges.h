@@ -12,6 +12,7 @@
 #include "model/int16.h"
 #include "model/limits.h"
 #include "model/project.h"
+#include "model/session.h"
 #include "model/table.h"
 #include "platform/messages.h"
 
@@ -50,8 +51,8 @@ inline constexpr int MaxPolyNumber = 20;
 
 class CellEdges {
   public:
-    // Empty lists for the project's cursor cell. The project keeps PointInCellX and PointInCellY.
-    CellEdges(Project& project, Messages& messages);
+    // Empty lists for the session's cursor cell. The project keeps PointInCellX and PointInCellY.
+    CellEdges(Project& project, const Session& session, Messages& messages);
 
     // True when VTP point i exists and lies in the cell; PointInCellX and PointInCellY then hold
     // its position there. Otherwise nothing changes. Throws Overflow for a point too far from the

@@ -3,7 +3,7 @@
 
 #include <QGroupBox>
 
-#include "model/project.h"
+#include "model/document.h"
 #include "platform/messages.h"
 #include "platform/qt_list_box.h"
 
@@ -13,25 +13,19 @@ class KillFrame : public QGroupBox {
     Q_OBJECT
 
   public:
-    KillFrame(Project& project, Messages& messages, QWidget* parent = nullptr);
-
-    // The selected entry's list position (entry - 1); -1 for none.
-    int Selected() const;
+    KillFrame(Document& document, Session& session, Messages& messages, QWidget* parent = nullptr);
 
     // Adds an entry for the cursor's cell, of the clear code of the last click.
     void Add_Kill_Cell();
-    // Shows the project's cleared cells as they are now; the selection stays as far as it can.
-    void Refresh_Kill_List();
+    // Shows the project's cleared cells and the selection as they are now.
+    void Refresh();
 
   Q_SIGNALS:
-    void Graphics_outdated();              // the map has to be drawn again
-    void SaveEntry_changed(bool enabled);  // of the menu entry VTPsave
+    void Graphics_outdated();  // another entry was selected, and the map has to be drawn again
 
   private:
-    void KillListBox_KeyDown(int key_code);
-    void Show_cells(int selected);
-
-    Project& project_;
+    Document& document_;
+    Session& session_;
     Messages& messages_;
     ListBox* KillListBox_;
 };

@@ -2,20 +2,21 @@
 
 #include "lwm/cell_text.h"
 #include "model/drawing_modes.h"
+#include "model/list_selection.h"
 #include "model/text_forms.h"
 
 namespace tidemark {
 
-bool Add_Kill_Cell(Project& project, Messages& messages) {
+bool Add_Kill_Cell(Project& project, const Session& session, Messages& messages) {
     if (project.KillCount >= MaxKillCount) {
         Warn(messages, "The cell has not been cleared: a project holds at most " +
                            Int_text(MaxKillCount) + " cleared cells.");
         return false;
     }
     const int entry = ++project.KillCount;
-    project.KillCell(entry, 0) = project.CursorCellX;
-    project.KillCell(entry, 1) = project.CursorCellY;
-    project.KillType(entry) = project.DrawMode;
+    project.KillCell(entry, 0) = session.CursorCellX;
+    project.KillCell(entry, 1) = session.CursorCellY;
+    project.KillType(entry) = session.DrawMode;
     return true;
 }
 
@@ -37,6 +38,12 @@ void Delete_Kill_Cell(Project& project, int entry) {
         project.KillType(k) = project.KillType(k + 1);
     }
     --project.KillCount;
+}
+
+void Refresh_Kill_List(const Project& project, Session& session) {
+    PanelState& panel = session.Panel;
+    panel.SelectedCell = Selected_after_refresh(panel.SelectedCell, project.KillCount);
+    if (project.PrefsSet) panel.VTPsave = Has_VTP_data(project);
 }
 
 }  // namespace tidemark

@@ -2,6 +2,7 @@
 
 #include "lwm/cell_text.h"
 #include "model/drawing_modes.h"
+#include "model/list_selection.h"
 #include "model/text_forms.h"
 
 namespace tidemark {
@@ -51,6 +52,13 @@ void Delete_LWM_Poly(Project& project, int polygon) {
     for (int i = polygon; i < project.LWMCount; ++i) Copy_LWM_Poly(project, i + 1, i);
     if (project.LWMCount == 1) project.LWMPointCount(1) = 0;
     --project.LWMCount;
+}
+
+void Refresh_LWM_List(Project& project, Session& session) {
+    Drop_closing_points(project);
+    PanelState& panel = session.Panel;
+    panel.SelectedPolygon = Selected_after_refresh(panel.SelectedPolygon, project.LWMCount);
+    if (project.PrefsSet) panel.LWMsave = project.LWMCount > 0;
 }
 
 }  // namespace tidemark

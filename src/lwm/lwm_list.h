@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/project.h"
+#include "model/session.h"
 
 namespace tidemark {
 
@@ -17,5 +18,10 @@ std::vector<std::string> LWM_list_lines(const Project& project);
 
 // The polygons after it move down by one. Does not set DataChanged.
 void Delete_LWM_Poly(Project& project, int polygon);
+
+// What is due whenever the polygons have changed: closing points are dropped, the selection stays
+// within the list, and once the preferences are set the entry LWMsave follows whether there are
+// polygons.
+void Refresh_LWM_List(Project& project, Session& session);
 
 }  // namespace tidemark

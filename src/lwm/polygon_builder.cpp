@@ -85,7 +85,7 @@ bool Is_in_box(CellPoint a, CellPoint b, CellPoint place) {
            Min_int(a.Y, b.Y) <= place.Y && place.Y <= Max_int(a.Y, b.Y);
 }
 
-void Append(Project& project, const Outline& outline, Int16 height) {
+void Append(Project& project, const Session& session, const Outline& outline, Int16 height) {
     const int polygon = project.LWMCount + 1;
     int k = 0;
     for (const CellPoint& vertex : outline) {
@@ -94,9 +94,9 @@ void Append(Project& project, const Outline& outline, Int16 height) {
         project.LWMPoint(polygon, k, 1) = vertex.Y;
     }
     project.LWMPointCount(polygon) = k;
-    project.LWMType(polygon) = project.DrawMode;
-    project.LWMCell(polygon, 0) = project.CursorCellX;
-    project.LWMCell(polygon, 1) = project.CursorCellY;
+    project.LWMType(polygon) = session.DrawMode;
+    project.LWMCell(polygon, 0) = session.CursorCellX;
+    project.LWMCell(polygon, 1) = session.CursorCellY;
     project.LWMHeight(polygon) = height;
     project.LWMCount = polygon;
 }
@@ -132,15 +132,15 @@ bool Surrounds(const Outline& outline, CellPoint place) {
     return inside;
 }
 
-LWMPolyResult Add_LWM_Poly(Project& project, Messages& messages, HeightChoice choice,
-                           std::string height_text) {
+LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,
+                           HeightChoice choice, std::string height_text) {
     const std::optional<Int16> height = Take_height(choice, height_text, messages);
     LWMPolyResult result{std::move(height_text), false, ""};
     if (!height) return result;
-    const std::vector<Outline> candidates = Candidate_polygons(project, messages);
+    const std::vector<Outline> candidates = Candidate_polygons(project, session, messages);
     if (candidates.empty()) return result;
 
-    const CellPoint click{project.CursorInCellX, project.CursorInCellY};
+    const CellPoint click{session.CursorInCellX, session.CursorInCellY};
     const std::optional<int> best = Best_candidate(candidates, click);
     if (!best) {
         Warn(messages,
@@ -150,7 +150,7 @@ LWMPolyResult Add_LWM_Poly(Project& project, Messages& messages, HeightChoice ch
     }
     const Outline& outline = candidates[static_cast<std::size_t>(*best - 1)];
     if (!Check_outline(outline, project, messages)) return result;
-    Append(project, outline, *height);
+    Append(project, session, outline, *height);
     result.Added = true;
     if (!Surrounds(outline, click))
         result.StatusLine = "The polygon that was added does not surround the place clicked.";

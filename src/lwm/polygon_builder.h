@@ -7,6 +7,7 @@
 
 #include "lwm/cell_edges.h"
 #include "model/project.h"
+#include "model/session.h"
 #include "platform/messages.h"
 
 namespace tidemark {
@@ -20,16 +21,17 @@ struct LWMPolyResult {
 };
 
 // Cuts the cursor's cell along its coastlines and appends the piece around the click as a polygon
-// of type DrawMode. Of the project it reads the VTP points, the cell and click of the cursor, and
-// DrawMode. Everything that stands in the way is said in a message, and then nothing is appended.
+// of type DrawMode. It reads the project's VTP points, and the cell and click of the session's
+// cursor and its DrawMode. Everything that stands in the way is said in a message, and then nothing
+// is appended.
 //
 // An explicit height is rounded to whole metres (halves to the even neighbour, 0 without a leading
 // number) and refused outside 0..10000; one that does not fit 16 bits stays in the box as it was
 // typed. A polygon that conforms to the terrain leaves the height text alone.
 //
 // Throws Overflow, before anything is appended, for points too far away for 16-bit arithmetic.
-LWMPolyResult Add_LWM_Poly(Project& project, Messages& messages, HeightChoice choice,
-                           std::string height_text);
+LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,
+                           HeightChoice choice, std::string height_text);
 
 // The candidate that surrounds the click best, numbered from 1: the only one, or of those whose
 // bounding box has the click strictly inside it the one whose vertices are nearest in the mean, and

@@ -181,8 +181,9 @@ bool Build_candidates(CellEdges& edges, Messages& messages) {
 
 }  // namespace
 
-std::vector<Outline> Candidate_polygons(Project& project, Messages& messages) {
-    CellEdges edges(project, messages);
+std::vector<Outline> Candidate_polygons(Project& project, const Session& session,
+                                        Messages& messages) {
+    CellEdges edges(project, session, messages);
     Collect_edge_points(edges, project);
     if (edges.EdgePointsLost) {
         Warn(messages, "The polygon has not been added: the coastlines may have at most " +

@@ -18,6 +18,15 @@ constexpr int Selected_after_delete(int selected, int count) {
     return Selected_after_refresh(std::max(selected - 1, 0), count);
 }
 
+// The Delete key in a list of `count` entries: removes the selected one, if any, with
+// remove(entry number from 1), and moves the selection on.
+template <class Remove>
+void Delete_selected(int& selected, const Int16& count, const Remove& remove) {
+    if (selected < 0) return;
+    remove(selected + 1);
+    selected = Selected_after_delete(selected, count);
+}
+
 // There is something to write: the VTP file carries the points and the cleared cells.
 inline bool Has_VTP_data(const Project& project) {
     return project.VTPCount + project.KillCount > 0;

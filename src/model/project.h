@@ -1,4 +1,5 @@
-// The one open project: every project-wide value and table by its own name.
+// The one open project: every value and table of it by its own name. The project file keeps all of
+// it; what is only known while it is edited is in Session.
 //
 // Records are numbered from 1; slot 0 of a table is never used, and slots beyond a count hold
 // whatever was there before and are never read.
@@ -64,21 +65,10 @@ struct Project {
     bool VTPNotepad = false, VTPCompile = false;
     bool PrefsSet = false;  // the preferences have been confirmed once
 
-    // Editing state. Of these only ProjectFile is kept in the project file.
-    std::string ProjectFile;            // full path; empty until a project is saved or opened
-    bool DataChanged = false;           // there are changes that are not saved
-    Int16 DrawMode;                     // code of the last left click's drawing mode
-    bool CalcFromBGproperties = false;  // the calculator was opened from Background Properties
-    bool VTPWriteFailed = false;        // the last write of the VTP file was refused or failed
+    std::string ProjectFile;  // full path; empty until a project is saved or opened
 
-    // Where the mouse last was on the map; not kept in the project file.
-    Int16 CursorOffsetX, CursorOffsetY;  // VTP units from the image's top-left corner
-    Int16 CursorVTPX, CursorVTPY;        // VTP units
-    Int16 CursorCellX, CursorCellY;      // LOD13 column and row
-    Int16 CursorInCellX, CursorInCellY;  // cell units, limited to 0..255
-
-    // Equal in everything that the project file keeps: scalars, texts and the entries up to each
-    // count. Editing state, cursor and unused slots do not count.
+    // Equal in every value, fractions to the bit, and in the entries up to each count. Unused slots
+    // do not count.
     friend bool operator==(const Project& a, const Project& b);
 };
 

@@ -61,18 +61,18 @@ bool Write_VTP_file(const Project& project, Messages& messages, Files& files) {
 
 }  // namespace
 
-void VTP_file_write(Project& project, Messages& messages, Files& files) {
-    if (!Write_VTP_file(project, messages, files)) project.VTPWriteFailed = true;
+void VTP_file_write(const Project& project, Session& session, Messages& messages, Files& files) {
+    if (!Write_VTP_file(project, messages, files)) session.VTPWriteFailed = true;
 }
 
 bool LWM_file_write(const Project& project, Messages& messages, Files& files) {
     return Write_file(project.LWMFileName, LWM_file_bytes(project), messages, files);
 }
 
-bool Save_VTP_file(Project& project, Messages& messages, Files& files) {
-    project.VTPWriteFailed = false;
-    VTP_file_write(project, messages, files);
-    if (project.VTPWriteFailed) return false;
+bool Save_VTP_file(const Project& project, Session& session, Messages& messages, Files& files) {
+    session.VTPWriteFailed = false;
+    VTP_file_write(project, session, messages, files);
+    if (session.VTPWriteFailed) return false;
     if (!project.VTPNotepad && !project.VTPCompile)
         Inform(messages, "Tidemark - File saved", "VTP file saved OK");
     return true;

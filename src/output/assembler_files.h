@@ -5,6 +5,7 @@
 #pragma once
 
 #include "model/project.h"
+#include "model/session.h"
 #include "platform/files.h"
 #include "platform/messages.h"
 
@@ -13,7 +14,7 @@ namespace tidemark {
 // Writes VTPFileName. Refuses a project with a segment of one point, one with nothing to write, and
 // one whose segments have a drawing mode outside the table. Sets VTPWriteFailed when it did not
 // write the file; never clears it. The segment flags must agree (Repair_segments).
-void VTP_file_write(Project& project, Messages& messages, Files& files);
+void VTP_file_write(const Project& project, Session& session, Messages& messages, Files& files);
 
 // Writes LWMFileName; false when the file could not be written.
 bool LWM_file_write(const Project& project, Messages& messages, Files& files);
@@ -21,7 +22,7 @@ bool LWM_file_write(const Project& project, Messages& messages, Files& files);
 // The commands "Save VTP data to file" and "Save LWM data to file" up to the actions after saving:
 // write, and say that it is saved unless one of those actions will show it. True when the file was
 // written.
-bool Save_VTP_file(Project& project, Messages& messages, Files& files);
+bool Save_VTP_file(const Project& project, Session& session, Messages& messages, Files& files);
 bool Save_LWM_file(const Project& project, Messages& messages, Files& files);
 
 }  // namespace tidemark

@@ -49,7 +49,15 @@ void Store_preferences(const OutputPreferences& preferences, Project& project) {
     project.CopyToFS = preferences.FScopy;
     project.FSFolder = preferences.FSname;
     project.PrefsSet = true;
-    project.DataChanged = true;
+}
+
+void Confirm_preferences(Document& document, Session& session,
+                         const OutputPreferences& preferences) {
+    document.Do("change output preferences", [&](Project& project) {
+        Store_preferences(preferences, project);
+        session.Panel.LWMsave = session.Panel.VTPsave = true;
+        session.DataChanged = true;
+    });
 }
 
 FileChooser BrowseDialog() {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "model/project.h"
+#include "model/document.h"
 #include "platform/platform.h"
 
 namespace tidemark {
@@ -29,9 +29,13 @@ OutputPreferences Shown_preferences(const Project& project);
 // that cannot stand in a project file.
 bool Check_preferences(const OutputPreferences& preferences, Messages& messages);
 
-// Confirms checked preferences: the project takes them over with the two file names, and counts as
-// changed whatever they were before.
+// The project takes checked preferences over, with the two file names.
 void Store_preferences(const OutputPreferences& preferences, Project& project);
+
+// Confirms checked preferences, as one step. The project counts as changed whatever they were
+// before, and both its files can be saved.
+void Confirm_preferences(Document& document, Session& session,
+                         const OutputPreferences& preferences);
 
 // The file choosers behind the two Browse buttons, as they are when the dialog opens. They keep the
 // last choice.

@@ -19,6 +19,7 @@ class ListBox::LinesModel : public QAbstractListModel {
     // Rows come and go at the end only and the others get their new text: the view then keeps its
     // place, which a reset of the model would lose.
     void Show(std::vector<std::string> lines) {
+        const bool is_new = lines != lines_;
         const int before = static_cast<int>(lines_.size());
         const int now = static_cast<int>(lines.size());
         if (now > before) {
@@ -33,7 +34,7 @@ class ListBox::LinesModel : public QAbstractListModel {
             lines_ = std::move(lines);
         }
         const int kept = std::min(before, now);
-        if (kept > 0) Q_EMIT dataChanged(index(0), index(kept - 1));
+        if (kept > 0 && is_new) Q_EMIT dataChanged(index(0), index(kept - 1));
     }
 
     int rowCount(const QModelIndex& parent) const override {
@@ -49,8 +50,8 @@ class ListBox::LinesModel : public QAbstractListModel {
     std::vector<std::string> lines_;
 };
 
-ListBox::ListBox(const QString& name, const QString& spoken, QWidget* parent)
-    : QListView(parent), lines_(new LinesModel(this)) {
+ListBox::ListBox(const QString& name, const QString& spoken, ListContent content, QWidget* parent)
+    : QListView(parent), content_(std::move(content)), lines_(new LinesModel(this)) {
     setObjectName(name);
     setAccessibleName(spoken);
     setModel(lines_);
@@ -72,10 +73,11 @@ void ListBox::Select(int position) {
         selectionModel()->clear();
 }
 
-void ListBox::Show_lines(std::vector<std::string> lines, int selected) {
+void ListBox::Refresh() {
     const QScopedValueRollback rebuilding(rebuilding_, true);
     const int before = Selected();
-    lines_->Show(std::move(lines));
+    lines_->Show(content_.Lines());
+    const int selected = content_.Selected;
     if (selected != before || selected != Selected()) Select(selected);
 }
 
@@ -95,7 +97,7 @@ QSize ListBox::minimumSizeHint() const {
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
-    if (const int code = Key_code(*event)) Q_EMIT Key_pressed(code);
+    if (Key_code(*event) == KeyDelete) content_.Delete();
     QListView::keyPressEvent(event);
 }
 
@@ -114,7 +116,9 @@ void ListBox::focusInEvent(QFocusEvent* event) {
 
 void ListBox::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
     QListView::selectionChanged(now, before);
-    if (!rebuilding_) Q_EMIT Clicked();
+    if (rebuilding_) return;
+    content_.Selected = Selected();
+    Q_EMIT Clicked();
 }
 
 // One line, always: neither Ctrl nor a click beside the lines takes the selection away.

@@ -1,6 +1,7 @@
 // A list of text lines of which at most one is selected.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -8,28 +9,37 @@
 
 namespace tidemark {
 
-// Positions count from 0; -1 stands for no line. New lines replace the old ones in place, so the
-// scroll position and the keyboard focus stay where the user has them.
+// What a list shows and what its Delete key does.
+struct ListContent {
+    std::function<std::vector<std::string>()> Lines;  // as they are now
+    int& Selected;                                    // the selected line's position
+    std::function<void()> Delete;                     // the selected line
+};
+
+// Positions count from 0; -1 stands for no line. The list shows what Refresh finds in its content
+// and writes the user's choice there. New lines replace the old ones in place, so the scroll
+// position and the keyboard focus stay where the user has them. Of the keys only Delete does
+// anything but select.
 class ListBox : public QListView {
     Q_OBJECT
 
   public:
     // `name` becomes the object name; `spoken` is what accessibility tools call the list.
-    ListBox(const QString& name, const QString& spoken, QWidget* parent = nullptr);
+    ListBox(const QString& name, const QString& spoken, ListContent content,
+            QWidget* parent = nullptr);
+
+    // Shows the content's lines and its selection, without announcing it. The selected line is
+    // scrolled into view only when it is another than before.
+    void Refresh();
 
     int Selected() const;
-    // Announced by Clicked when it changes the selection; -1 takes the selection away.
-    void Select(int position);
-
-    // Shows `lines` and selects `selected` among them, without announcing it: a rebuild ends in a
-    // redraw of its own. The selected line is scrolled into view only when it is another than
-    // before.
-    void Show_lines(std::vector<std::string> lines, int selected);
     const std::vector<std::string>& Lines() const;
 
+    // Letters and blanks must not move the selection that Delete acts on.
+    void keyboardSearch(const QString&) override {}
+
   Q_SIGNALS:
-    void Clicked();                  // another line was selected, by the user or by Select
-    void Key_pressed(int key_code);  // those of qt_keys.h; the list then takes the key as well
+    void Clicked();  // the user has selected another line
 
   protected:
     QSize sizeHint() const override;
@@ -44,6 +54,9 @@ class ListBox : public QListView {
   private:
     class LinesModel;
 
+    void Select(int position);
+
+    ListContent content_;
     LinesModel* lines_;
     bool rebuilding_ = false;
 };

@@ -1,13 +1,33 @@
 #include "vtp_edit/drawing_mode_frame_window.h"
 
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include "platform/qt_text.h"
 
 namespace tidemark {
 
+namespace {
+
+// Turned by the wheel only while it has the keyboard: the wheel on its way over the panel must not
+// change what the next click draws.
+class ModeCombo : public QComboBox {
+  public:
+    ModeCombo() { setFocusPolicy(Qt::StrongFocus); }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus())
+            QComboBox::wheelEvent(event);
+        else
+            event->ignore();
+    }
+};
+
+}  // namespace
+
 DrawingModeFrame::DrawingModeFrame(QWidget* parent)
-    : QGroupBox("Drawing Mode", parent), DrawModeCombo_(new QComboBox) {
+    : QGroupBox("Drawing Mode", parent), DrawModeCombo_(new ModeCombo) {
     DrawModeCombo_->setObjectName("DrawModeCombo");
     DrawModeCombo_->setAccessibleName("Drawing mode");
     for (const DrawingMode& mode : DrawingModes) DrawModeCombo_->addItem(To_qt(mode.Item));

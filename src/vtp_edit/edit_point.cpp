@@ -36,13 +36,13 @@ bool In_range(std::string_view axis, const std::string& text, Int16 lowest, Int1
 
 }  // namespace
 
-EditPointTexts Edit_point_texts(Project& project, int point) {
+EditPointTexts Edit_point_texts(const Project& project, Session& session, int point) {
     const Int16 x = project.VTPPoint(point, 0);
     const Int16 y = project.VTPPoint(point, 1);
     const Int16 in_cell_x = In_cell_from(project.AreaLeftVTP, x);
     const Int16 in_cell_y = In_cell_from(project.AreaTopVTP, y);
-    project.CursorInCellX = in_cell_x;
-    project.CursorInCellY = in_cell_y;
+    session.CursorInCellX = in_cell_x;
+    session.CursorInCellY = in_cell_y;
     return {Int_text(x), Int_text(y), Int_text(in_cell_x), Int_text(in_cell_y)};
 }
 
@@ -62,7 +62,7 @@ bool Check_edit_point(const Project& project, const EditPointTexts& texts, Messa
            In_range("Y", texts.VTPY, project.AreaTopVTP, project.AreaBottomVTP, messages);
 }
 
-void Store_edit_point(Project& project, int point, const EditPointTexts& texts) {
+void Store_edit_point(Project& project, Session& session, int point, const EditPointTexts& texts) {
     Int16& x = project.VTPPoint(point, 0);
     Int16& y = project.VTPPoint(point, 1);
     // Both are worked out before either is stored: one that does not fit leaves the point alone.
@@ -72,7 +72,7 @@ void Store_edit_point(Project& project, int point, const EditPointTexts& texts) 
                                     : std::pair(Int_value(texts.VTPX), Int_value(texts.VTPY));
     x = new_x;
     y = new_y;
-    project.DataChanged = true;
+    session.DataChanged = true;
 }
 
 }  // namespace tidemark

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/project.h"
+#include "model/session.h"
 #include "platform/messages.h"
 
 namespace tidemark {
@@ -17,7 +18,7 @@ struct EditPointTexts {
 
 // The texts of a point. Its position in the cell also goes to CursorInCellX and CursorInCellY,
 // where it stays until the next mouse move.
-EditPointTexts Edit_point_texts(Project& project, int point);
+EditPointTexts Edit_point_texts(const Project& project, Session& session, int point);
 
 // "Current LOD13 cell is [ column, row ]".
 std::string Edit_point_cell_text(const Project& project, int point);
@@ -28,6 +29,6 @@ bool Check_edit_point(const Project& project, const EditPointTexts& texts, Messa
 
 // Gives the point the place of the chosen form, each number rounded with halves to the even
 // neighbour; a position in the cell counts in the cell that the point lies in. Sets DataChanged.
-void Store_edit_point(Project& project, int point, const EditPointTexts& texts);
+void Store_edit_point(Project& project, Session& session, int point, const EditPointTexts& texts);
 
 }  // namespace tidemark

@@ -9,6 +9,7 @@
 #include "platform/qt_active_window.h"
 #include "platform/qt_controls.h"
 #include "platform/qt_text.h"
+#include "vtp_edit/vtp_commands.h"
 
 namespace tidemark {
 
@@ -25,9 +26,10 @@ QFormLayout* Indented_form(QWidget* fields) {
 
 }  // namespace
 
-EditPoint::EditPoint(Project& project, Messages& messages, QWidget* owner)
+EditPoint::EditPoint(Document& document, Session& session, Messages& messages, QWidget* owner)
     : QDialog(owner),
-      project_(project),
+      document_(document),
+      session_(session),
       messages_(messages),
       Option1_(Named<QRadioButton>("Option1", "Edit VTP co-ordinates:")),
       Option2_(Named<QRadioButton>("Option2", "Edit LOD13 cell co-ordinates:")),
@@ -66,16 +68,14 @@ void EditPoint::Lay_out() {
     column->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-bool EditPoint::Edit(int point) {
-    Show_texts(Edit_point_texts(project_, point));
-    CellLabel_->setText(To_qt(Edit_point_cell_text(project_, point)));
+void EditPoint::Edit(int point) {
+    Show_texts(Edit_point_texts(document_.Now(), session_, point));
+    CellLabel_->setText(To_qt(Edit_point_cell_text(document_.Now(), point)));
     QLineEdit* const first = Option1_->isChecked() ? VTPX_ : LOD13X_;
     first->setFocus();
     first->selectAll();
     const ActiveWindow active_window;
-    if (exec() != QDialog::Accepted) return false;
-    Store_edit_point(project_, point, Texts());
-    return true;
+    if (exec() == QDialog::Accepted) Move_point(document_, session_, point, Texts());
 }
 
 void EditPoint::Option_Click() {
@@ -84,7 +84,7 @@ void EditPoint::Option_Click() {
 }
 
 void EditPoint::OKButton_Click() {
-    if (Check_edit_point(project_, Texts(), messages_)) accept();
+    if (Check_edit_point(document_.Now(), Texts(), messages_)) accept();
 }
 
 void EditPoint::Show_texts(const EditPointTexts& texts) {

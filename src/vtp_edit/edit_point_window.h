@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include "model/project.h"
+#include "model/document.h"
 #include "platform/messages.h"
 #include "vtp_edit/edit_point.h"
 
@@ -16,11 +16,11 @@ class EditPoint : public QDialog {
     Q_OBJECT
 
   public:
-    EditPoint(Project& project, Messages& messages, QWidget* owner = nullptr);
+    EditPoint(Document& document, Session& session, Messages& messages, QWidget* owner = nullptr);
 
     // Shows a point's place, waits until the dialog is closed and stores what was entered. Closed
-    // in any other way than with OK it changes nothing and returns false.
-    bool Edit(int point);
+    // in any other way than with OK it changes nothing.
+    void Edit(int point);
 
   private:
     void Lay_out();
@@ -29,7 +29,8 @@ class EditPoint : public QDialog {
     void Show_texts(const EditPointTexts& texts);
     EditPointTexts Texts() const;
 
-    Project& project_;
+    Document& document_;
+    Session& session_;
     Messages& messages_;
     QRadioButton* Option1_;  // VTP units
     QRadioButton* Option2_;  // position in the cell

@@ -4,31 +4,34 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "model/list_selection.h"
-#include "model/segments.h"
 #include "platform/qt_controls.h"
-#include "platform/qt_keys.h"
 #include "platform/qt_text.h"
+#include "vtp_edit/vtp_commands.h"
 #include "vtp_edit/vtp_list.h"
 #include "vtp_edit/vtp_points.h"
 
 namespace tidemark {
 
-VTPFrame::VTPFrame(Project& project, Messages& messages, QWidget* parent)
+VTPFrame::VTPFrame(Document& document, Session& session, Messages& messages, QWidget* parent)
     : QGroupBox("VTP points / segments", parent),
-      project_(project),
+      document_(document),
+      session_(session),
       messages_(messages),
-      VTPlistbox_(new ListBox("VTPlistbox", "VTP points and segments")),
+      VTPlistbox_(new ListBox(
+          "VTPlistbox", "VTP points and segments",
+          {[&document] { return VTP_list_lines(document.Now()); }, session.Panel.SelectedPoint,
+           [&document, &session] { Delete_selected_point(document, session); }})),
       NewSegment_(Named<QCheckBox>("NewSegment", "Start new segment")),
       VTPwidthText_(
           Named_field("VTPwidthText", "Current segment width", To_qt(DefaultVTPWidthText))) {
     Lay_out();
     connect(VTPlistbox_, &ListBox::Clicked, this, &VTPFrame::Graphics_outdated);
-    connect(VTPlistbox_, &ListBox::Key_pressed, this, &VTPFrame::VTPlistbox_KeyDown);
+    connect(NewSegment_, &QCheckBox::toggled, this,
+            [this](bool checked) { session_.Panel.NewSegment = checked; });
 }
 
 void VTPFrame::Lay_out() {
-    NewSegment_->setChecked(true);
+    NewSegment_->setChecked(session_.Panel.NewSegment);
     auto* const label = new QLabel("Current segment width:");
     label->setBuddy(VTPwidthText_);
     auto* const change = Named<QPushButton>("ChangeButton", "Change segment width");
@@ -49,14 +52,6 @@ void VTPFrame::Lay_out() {
     connect(edit, &QPushButton::clicked, this, &VTPFrame::EditButton_clicked);
 }
 
-int VTPFrame::Selected() const {
-    return VTPlistbox_->Selected();
-}
-
-void VTPFrame::Select(int position) {
-    VTPlistbox_->Select(position);
-}
-
 void VTPFrame::Start_new_segment() {
     NewSegment_->setChecked(true);
 }
@@ -69,45 +64,20 @@ std::optional<Int16> VTPFrame::Typed_width() {
 }
 
 void VTPFrame::Add_VTP_Point() {
-    const std::optional<Int16> width = Typed_width();
-    if (!width) return;
-    const NextPoint next{Selected(), NewSegment_->isChecked(), *width};
-    const std::optional<int> added = tidemark::Add_VTP_Point(project_, next, messages_);
-    if (!added) return;
-    NewSegment_->setChecked(false);
-    Show_points(*added);
+    if (const auto width = Typed_width()) Click_point(document_, session_, *width, messages_);
 }
 
-void VTPFrame::Refresh_VTP_List() {
-    Show_points(Selected());
-}
-
-void VTPFrame::Show_points(int selected) {
-    Repair_segments(project_);
-    VTPlistbox_->Show_lines(VTP_list_lines(project_),
-                            Selected_after_refresh(selected, project_.VTPCount));
-    if (project_.PrefsSet) Q_EMIT SaveEntry_changed(Has_VTP_data(project_));
-    Q_EMIT Graphics_outdated();
-}
-
-void VTPFrame::VTPlistbox_KeyDown(int key_code) {
-    const int selected = Selected();
-    if (key_code != KeyDelete || selected < 0) return;
-    Delete_VTP_Point(project_, selected + 1);
-    Show_points(Selected_after_delete(selected, project_.VTPCount));
+void VTPFrame::Refresh() {
+    VTPlistbox_->Refresh();
+    NewSegment_->setChecked(session_.Panel.NewSegment);
 }
 
 void VTPFrame::ChangeButton_Click() {
-    const std::optional<Int16> width = Typed_width();
-    if (!width || Selected() < 0) return;
-    Change_segment_width(project_, Selected() + 1, *width);
-    Refresh_VTP_List();
+    if (const auto width = Typed_width()) Change_selected_width(document_, session_, *width);
 }
 
 void VTPFrame::ReverseButton_Click() {
-    if (Selected() < 0) return;
-    Reverse_segment(project_, Selected() + 1);
-    Refresh_VTP_List();
+    Reverse_selected_segment(document_, session_);
 }
 
 }  // namespace tidemark

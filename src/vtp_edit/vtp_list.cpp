@@ -1,6 +1,8 @@
 #include "vtp_edit/vtp_list.h"
 
 #include "model/drawing_modes.h"
+#include "model/list_selection.h"
+#include "model/segments.h"
 #include "model/text_forms.h"
 
 namespace tidemark {
@@ -30,6 +32,13 @@ std::vector<std::string> VTP_list_lines(const Project& project) {
         if (project.VTPSegEnd(i)) lines.back() += " ] W=" + Int_text(segment_width);
     }
     return lines;
+}
+
+void Refresh_VTP_List(Project& project, Session& session) {
+    Repair_segments(project);
+    PanelState& panel = session.Panel;
+    panel.SelectedPoint = Selected_after_refresh(panel.SelectedPoint, project.VTPCount);
+    if (project.PrefsSet) panel.VTPsave = Has_VTP_data(project);
 }
 
 }  // namespace tidemark

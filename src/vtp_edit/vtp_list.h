@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/project.h"
+#include "model/session.h"
 
 namespace tidemark {
 
@@ -14,5 +15,10 @@ namespace tidemark {
 //       5010, 6005 ] W=80
 // The segment flags have to agree with one another (Repair_segments).
 std::vector<std::string> VTP_list_lines(const Project& project);
+
+// What is due whenever the points have changed: the segment flags are put right, the selection
+// stays within the list, and once the preferences are set the entry VTPsave follows whether there
+// is anything to save.
+void Refresh_VTP_List(Project& project, Session& session);
 
 }  // namespace tidemark

@@ -20,27 +20,11 @@ void Copy_VTP_Point(Project& project, int from, int to) {
     project.VTPWidth(to) = project.VTPWidth(from);
 }
 
-void Set_from_cursor(Project& project, int point, bool starts_segment, Int16 width) {
-    project.VTPPoint(point, 0) = project.CursorVTPX;
-    project.VTPPoint(point, 1) = project.CursorVTPY;
-    project.VTPSegStart(point) = starts_segment;
-    project.VTPMode(point) = project.DrawMode;
-    project.VTPWidth(point) = width;
-}
-
-int Append(Project& project, const NextPoint& next) {
-    ++project.VTPCount;
-    Set_from_cursor(project, project.VTPCount, next.NewSegment, next.Width);
-    return project.VTPCount - 1;
-}
-
-int Insert(Project& project, const NextPoint& next) {
-    const int point = next.Selected + 1;
+// Makes room at `point`; the points from there on move up by one.
+void Insert(Project& project, int point) {
     for (int i = project.VTPCount; i >= point; --i) Copy_VTP_Point(project, i, i + 1);
-    Set_from_cursor(project, point, false, next.Width);
     if (project.VTPSegStart(point + 1)) project.VTPSegEnd(point) = true;
     ++project.VTPCount;
-    return next.Selected;
 }
 
 }  // namespace
@@ -58,14 +42,33 @@ std::optional<Int16> Take_width(std::string& text, Messages& messages) {
     return width;
 }
 
-std::optional<int> Add_VTP_Point(Project& project, const NextPoint& next, Messages& messages) {
+int Next_point(const Project& project, const PanelState& panel) {
+    const int end = project.VTPCount;
+    const bool at_end = panel.SelectedPoint < 0 || panel.SelectedPoint == end - 1;
+    return at_end || panel.NewSegment ? end + 1 : panel.SelectedPoint + 1;
+}
+
+bool Add_VTP_Point(Project& project, Session& session, Int16 width, Messages& messages) {
     if (project.VTPCount >= MaxVTPCount) {
         Warn(messages, "The point has not been added: a project holds at most " +
                            Int_text(MaxVTPCount) + " points.");
-        return std::nullopt;
+        return false;
     }
-    const bool at_end = next.Selected < 0 || next.Selected == project.VTPCount - 1;
-    return at_end || next.NewSegment ? Append(project, next) : Insert(project, next);
+    PanelState& panel = session.Panel;
+    const int point = Next_point(project, panel);
+    const bool is_last = point > project.VTPCount;
+    if (is_last)
+        ++project.VTPCount;
+    else
+        Insert(project, point);
+    project.VTPPoint(point, 0) = session.CursorVTPX;
+    project.VTPPoint(point, 1) = session.CursorVTPY;
+    project.VTPSegStart(point) = is_last && panel.NewSegment;
+    project.VTPMode(point) = session.DrawMode;
+    project.VTPWidth(point) = width;
+    panel.NewSegment = false;
+    panel.SelectedPoint = point - 1;
+    return true;
 }
 
 void Delete_VTP_Point(Project& project, int point) {
@@ -85,7 +88,6 @@ void Reverse_segment(Project& project, int point) {
     for (; first < last; ++first, --last)
         for (const int axis : {0, 1})
             std::swap(project.VTPPoint(first, axis), project.VTPPoint(last, axis));
-    project.DataChanged = true;
 }
 
 }  // namespace tidemark

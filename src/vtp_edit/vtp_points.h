@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "model/project.h"
+#include "model/session.h"
 #include "platform/messages.h"
 
 namespace tidemark {
@@ -19,18 +20,14 @@ inline constexpr std::string_view DefaultVTPWidthText = "80";
 // default.
 std::optional<Int16> Take_width(std::string& text, Messages& messages);
 
-// What the Status panel says about the next point.
-struct NextPoint {
-    int Selected;  // list position
-    bool NewSegment;
-    Int16 Width;
-};
+// The number of the next point: behind the last point when that one or none is selected or a new
+// segment is to start, otherwise the number of the selected point, which moves down by one.
+int Next_point(const Project& project, const PanelState& panel);
 
-// Adds a point at the cursor, in the drawing mode of the last click: behind the last point when
-// that one or none is selected or a new segment is to start, otherwise in place of the selected
-// point, which moves down by one. Returns the new point's list position; in a full project it
-// warns, changes nothing and returns nothing.
-std::optional<int> Add_VTP_Point(Project& project, const NextPoint& next, Messages& messages);
+// Adds a point of this width at the cursor, in the drawing mode of the last click, as Next_point.
+// It becomes the selected one, and no new segment starts with the one after it. In a full project
+// it warns, changes nothing and returns false.
+bool Add_VTP_Point(Project& project, Session& session, Int16 width, Messages& messages);
 
 // Where a segment's first point goes, the next point starts the segment with the mode and width
 // stored on itself.
@@ -39,8 +36,7 @@ void Delete_VTP_Point(Project& project, int point);
 // The width of the segment that holds the point, which is the one stored on its first point.
 void Change_segment_width(Project& project, int point, Int16 width);
 
-// Turns round the points of the segment that holds the point; mode and width stay with it. Sets
-// DataChanged.
+// Turns round the points of the segment that holds the point; mode and width stay with it.
 void Reverse_segment(Project& project, int point);
 
 }  // namespace tidemark

@@ -15,11 +15,16 @@ TEST(ProjectCommandsTest, AProjectIsSavedUnderAGoodNameOverAnotherOnlyAfterYes) 
     FakePlatform fake;
     fake.choosers.Answers = {std::nullopt, "two\nlines.tdm", "/c.tdm"};
     fake.messages.Answers = {MessageAnswer::No, MessageAnswer::Yes, MessageAnswer::Yes};
-    Project p;
+    Session session;
+    Document document(session);
+    const Project& p = document.Now();
+    const auto set = [&](auto Project::*value, auto to) {
+        document.Do("change", [&](Project& project) { project.*value = to; });
+    };
     const auto save = [&](bool is_saved) {
-        p.DataChanged = true;
-        EXPECT_EQ(Save_project(p, fake.platform), is_saved);
-        EXPECT_EQ(p.DataChanged, !is_saved);
+        session.DataChanged = true;
+        EXPECT_EQ(Save_project(document, session, fake.platform), is_saved);
+        EXPECT_EQ(session.DataChanged, !is_saved);
         return std::exchange(fake.messages.Shown, {});
     };
     EXPECT_TRUE(save(false).empty()) << "the chooser is cancelled";
@@ -27,14 +32,14 @@ TEST(ProjectCommandsTest, AProjectIsSavedUnderAGoodNameOverAnotherOnlyAfterYes) 
     EXPECT_EQ(p.ProjectFile, "");
     EXPECT_EQ(save(true), std::vector{saved});
     EXPECT_EQ(fake.files.Content["/c.tdm"], Project_bytes(p, "now"));
-    p.BGLOD8X = 5;
+    set(&Project::BGLOD8X, 5);
     EXPECT_EQ(save(false), std::vector{question});
     EXPECT_NE(fake.files.Content["/c.tdm"], Project_bytes(p, "now"));
     EXPECT_EQ(save(true), (std::vector{question, saved}));
     EXPECT_EQ(fake.files.Content["/c.tdm"], Project_bytes(p, "now"));
     fake.files.WriteError = "No space left on device";
     EXPECT_EQ(save(false).at(1).Text, "/c.tdm could not be saved: No space left on device");
-    p.FSFolder = "a\nb";
+    set(&Project::FSFolder, "a\nb");
     EXPECT_EQ(save(false).at(0).Text, "FSFolder" + unsavable);
     const FileChooser& chooser = fake.choosers.Shown.at(0);
     EXPECT_EQ(chooser.Title + chooser.Filter + chooser.InitialFolder,
@@ -48,11 +53,16 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
                           {"/maps/bad.tdm", "x saved on y\n1\n70000\n"},
                           {"/maps/huge.tdm", std::string(MaxProjectFileSize + 1, '7')},
                           {"/maps/short.tdm", "x saved on y\n1\n"}};
-    Project p;
-    const auto open = [&](const char* path, bool is_opened) {
-        const OpenResult result = Open_project(path, p, fake.platform);
-        EXPECT_EQ(result.Opened, is_opened) << path;
-        return result.Status + fake.messages.Said();
+    Session session;
+    Document document(session);
+    const Project& p = document.Now();
+    const auto open = [&](const std::string& path, bool is_opened) {
+        session.DataChanged = true;
+        const std::string status =
+            Open_project(path, document, session, fake.platform, [](auto&&) { return true; });
+        EXPECT_EQ(session.Opened.Path == path, is_opened) << path;
+        EXPECT_EQ(session.DataChanged, !is_opened) << path;
+        return status + fake.messages.Said();
     };
     EXPECT_EQ(open("/moved/c.tdm", true), "");
     EXPECT_EQ(open("/maps/bad.tdm", false),
@@ -69,7 +79,7 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
 TEST(ProjectCommandsTest, OnlyUnsavedChangesAreAskedAboutAtTheExit) {
     RecordingMessages messages;
     messages.Answers = {MessageAnswer::No, MessageAnswer::Yes};
-    Project p;
+    Session p;
     EXPECT_TRUE(May_exit(p, messages));
     p.DataChanged = true;
     EXPECT_FALSE(May_exit(p, messages));

@@ -131,7 +131,7 @@ class RandomUser {
                   std::clamp(place_.y(), seen.top(), seen.bottom())};
         Click_at(canvas_, place_, button);
         if (button == Qt::LeftButton)
-            EXPECT_TRUE(Now().DataChanged);
+            EXPECT_TRUE(window_.Current_session().DataChanged);
         else
             EXPECT_EQ(lists_[0]->Selected() >= 0, Now().VTPCount > 0);
     }
@@ -148,7 +148,7 @@ class RandomUser {
     }
 
     void Delete_in(ListBox& list) {
-        const bool changed = Now().DataChanged;
+        const bool changed = window_.Current_session().DataChanged;
         const bool is_full = static_cast<int>(list.Lines().size()) > most_;
         list.setFocus();
         for (int presses = random_.Number(1, is_full ? 12 : 2); presses > 0; --presses) {
@@ -156,7 +156,7 @@ class RandomUser {
             Press(list, Qt::Key_Delete);
             EXPECT_EQ(list.Selected(), count > 1 && selected == 0 ? 0 : std::max(selected - 1, -1));
         }
-        EXPECT_EQ(Now().DataChanged, changed);
+        EXPECT_EQ(window_.Current_session().DataChanged, changed);
         EXPECT_EQ(panel_.focusWidget(), &list);
     }
 
@@ -179,7 +179,7 @@ class RandomUser {
         const auto messages = answers_.Messages.size();
         Choose(random_.One_in(6) ? "FileSaveAs" : "FileSave");
         if (answers_.Messages.mid(messages).filter("Tidemark - Saved OK").isEmpty()) return;
-        EXPECT_FALSE(Now().DataChanged);
+        EXPECT_FALSE(window_.Current_session().DataChanged);
         saved_[Now().ProjectFile] = std::make_unique<Project>(Now());
     }
 

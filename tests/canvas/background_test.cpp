@@ -18,20 +18,21 @@ TEST(BackgroundTest, UnsavedChangesAreClearedOnlyOnYes) {
     FakePlatform fake;
     fake.messages.Answers = {MessageAnswer::No, MessageAnswer::Yes};
     fake.choosers.Answers = {std::nullopt, "/maps/two\nlines.gif", "/maps/bay.gif"};
-    project.DataChanged = true;
+    Session session;
+    session.DataChanged = true;
     for (const auto& [chosen, left, said] :
          {std::tuple{false, &before, question},  // No
           {false, &cleared, question},           // Yes, and the chooser is cancelled
           {false, &cleared,
            "This name cannot be used: it holds a line end or a NUL, or it is too long."}}) {
-        EXPECT_EQ(Choose_background(project, fake.messages, fake.choosers, "/maps"), chosen);
+        EXPECT_EQ(Choose_background(project, session, fake.platform), chosen);
         EXPECT_EQ(project, *left);
         EXPECT_EQ(fake.messages.Said(), said);
     }
-    EXPECT_TRUE(Choose_background(project, fake.messages, fake.choosers, "/maps"));
+    EXPECT_TRUE(Choose_background(project, session, fake.platform));
     EXPECT_EQ(project.BackgroundFile + fake.messages.Said(), "/maps/bay.gif");
-    EXPECT_FALSE(project.DataChanged);
-    EXPECT_EQ(fake.choosers.Shown.at(0).InitialFolder, "/maps");
+    EXPECT_FALSE(session.DataChanged);
+    EXPECT_EQ(fake.choosers.Shown.at(0).InitialFolder, "/start");
     EXPECT_EQ(fake.choosers.Shown.at(0).FileName, before.BackgroundFile);
     EXPECT_EQ(fake.choosers.Shown.size(), 3U);
 }
@@ -42,9 +43,11 @@ TEST(BackgroundTest, ANameThatIsNoFullPathIsAlsoLookedForBesideTheProject) {
                                       {"C:\\bay.gif", {"C:\\bay.gif"}}}) {
         Project project;
         project.BackgroundFile = name;
+        Session session;
+        session.Opened.Folder = "/p/";
         RecordingMessages messages;
         Texts asked;
-        Load_background_file(project, messages, "/p/", [&](const std::string& path) {
+        Load_background_file(project, session, messages, [&](const std::string& path) {
             asked.push_back(path);
             return false;
         });

@@ -14,6 +14,7 @@ class MapFrameTest : public testing::Test {
     }
 
     Project project_;
+    Session session_;
 };
 
 TEST_F(MapFrameTest, BothMappingsPlaceAPointAlikeAndKeepFractions) {
@@ -25,25 +26,25 @@ TEST_F(MapFrameTest, BothMappingsPlaceAPointAlikeAndKeepFractions) {
 
 TEST_F(MapFrameTest, TheMouseFindsPositionAndCellWhereThereIsAScale) {
     Expect_cases("canvas/data/cursor.txt", [this](const Given& given) {
-        const auto texts = Move_cursor(project_, std::stof(given[0]), 0);
+        const auto texts = Move_cursor(project_, session_, std::stof(given[0]), 0);
         return texts.value().VTP + " " + texts.value().Cell;
     });
     for (const float scale : {0.0F, -1.0F, 1e-6F}) {
         project_.ScaleX = scale;
-        EXPECT_FALSE(Move_cursor(project_, 500, 21)) << scale;
-        EXPECT_EQ(project_.CursorOffsetX, -1) << scale;
-        EXPECT_EQ(project_.CursorVTPY, 5104) << scale;
+        EXPECT_FALSE(Move_cursor(project_, session_, 500, 21)) << scale;
+        EXPECT_EQ(session_.CursorOffsetX, -1) << scale;
+        EXPECT_EQ(session_.CursorVTPY, 5104) << scale;
     }
 }
 
 TEST_F(MapFrameTest, TheNearestPointIsTheFirstOfThoseEquallyNear) {
-    EXPECT_FALSE(Nearest_point(project_));
+    EXPECT_FALSE(Nearest_point(project_, session_));
     Add_segment(project_, 0, 80, {{12272, 12272}, {5000, 5003}, {5003, 5000}, {5000, 4997}});
     for (const auto& [x, y, nearest] :
          {std::tuple{5000, 5000, 2}, {12000, 5000, 3}, {12000, 12000, 1}}) {
-        project_.CursorVTPX = x;
-        project_.CursorVTPY = y;
-        EXPECT_EQ(Nearest_point(project_), nearest);
+        session_.CursorVTPX = x;
+        session_.CursorVTPY = y;
+        EXPECT_EQ(Nearest_point(project_, session_), nearest);
     }
 }
 

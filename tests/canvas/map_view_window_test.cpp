@@ -15,9 +15,8 @@ class MapViewTest : public testing::Test {
     }
 
     void Load(const QByteArray& bytes) {
-        project_.BackgroundFile = folder_ / "map.jpg";
-        Write_file(project_.BackgroundFile, bytes.toStdString());
-        view_.Load_Background();
+        Write_file(folder_ / "map.jpg", bytes.toStdString());
+        EXPECT_TRUE(view_.Show_image(folder_ / "map.jpg"));
     }
 
     // What the viewport shows now.
@@ -26,7 +25,7 @@ class MapViewTest : public testing::Test {
     TemporaryFolder folder_;
     Project project_;
     RecordingMessages messages_;
-    MapView view_{project_, messages_};
+    MapView view_;
     QWidget& viewport_ = Control<QWidget>(view_, "Picture1");
     MapCanvas& canvas_ = Control<MapCanvas>(view_, "Picture2");
     QScrollBar& across_ = Control<QScrollBar>(view_, "HScroll1");
@@ -50,9 +49,9 @@ TEST_F(MapViewTest, TheImageComesUpScrollsTakesMouseAndKeysAndIsResized) {
     EXPECT_EQ(canvas_.pos(), QPoint(-150, -down_.value()));
     EXPECT_GT(down_.value(), 0);
 
-    QSignalSpy moved(&view_, &MapView::Picture2_MouseMove);
-    QSignalSpy pressed(&view_, &MapView::Picture2_MouseDown);
-    QSignalSpy keys(&view_, &MapView::Picture2_KeyDown);
+    QSignalSpy moved(&canvas_, &MapCanvas::Mouse_moved);
+    QSignalSpy pressed(&canvas_, &MapCanvas::Mouse_pressed);
+    QSignalSpy keys(&canvas_, &MapCanvas::Key_pressed);
     QTest::mouseMove(&viewport_, {10, 20});
     QTest::mouseMove(&canvas_, QPoint(10, 20) - canvas_.pos());
     EXPECT_EQ(moved.last(), (QVariantList{160.0F, 20.0F + static_cast<float>(down_.value())}));
@@ -62,32 +61,27 @@ TEST_F(MapViewTest, TheImageComesUpScrollsTakesMouseAndKeysAndIsResized) {
     for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Period, Qt::Key_E}) Press(canvas_, key);
     EXPECT_EQ(keys, (QList<QVariantList>{{46}, {69}}));
 
-    QSignalSpy outdated(&view_, &MapView::Graphics_outdated);
+    QSignalSpy resized(&view_, &MapView::Resized);
     view_.resize(500 + bar_, 400 + bar_);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(canvas_.pos(), QPoint(0, 0)) << "a resize goes back to the corner";
+    EXPECT_EQ(resized.count(), 1);
+    EXPECT_TRUE(view_.Show_image(view_.Shown_file()));
+    EXPECT_EQ(canvas_.pos(), QPoint(0, 0)) << "it goes back to the corner";
     EXPECT_EQ(viewport_.size(), QSize(500, 400));
-    EXPECT_EQ(outdated.count(), 1);
+    view_.Show_nothing();
+    EXPECT_TRUE(begin.isVisible() && !viewport_.isVisible() && !down_.isVisible());
 }
 
-TEST_F(MapViewTest, AFileThatIsNoImageIsToldAndThePictureStays) {
+TEST_F(MapViewTest, AFileThatIsNoImageIsRefusedAndThePictureStays) {
     Load(BMP_bytes(1000, 900));
-    EXPECT_TRUE(project_.BackgroundLoaded && project_.DataChanged);
     const QImage before = Shown();
     Write_file(folder_ / "strip.bmp", BMP_bytes(1, 40000).toStdString());
     Write_file(folder_ / "text.JPG", "To whom it may concern");
-    project_.DataChanged = false;
     for (const std::string& path :
          {folder_ / "strip.bmp", folder_ / "text.JPG", folder_.Path(), std::string()}) {
-        project_.BackgroundFile = path;
-        view_.Load_Background();
-        EXPECT_EQ(messages_.Said(), "An error occurred when trying to load " + path);
-        EXPECT_FALSE(project_.BackgroundLoaded || project_.DataChanged) << path;
+        EXPECT_FALSE(view_.Show_image(path)) << path;
         EXPECT_EQ(Shown(), before) << path;
+        EXPECT_EQ(view_.Shown_file(), folder_ / "map.jpg");
     }
-    view_.resize(500, 400);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(messages_.Said(), "") << "a resize asks for no image that is not there";
 }
 
 TEST_F(MapViewTest, DrawingsHaveTheirColoursAndWidthsOverTheImage) {
@@ -96,7 +90,7 @@ TEST_F(MapViewTest, DrawingsHaveTheirColoursAndWidthsOverTheImage) {
     Add_segment(project_, 0, 80, {{4100, 4180}, {4300, 4180}});
     Add_segment(project_, 5, 80, {{4380, 4110}, {4380, 4280}});
     Add_polygon(project_, 0, 0, LandPolygon, 0, 4);
-    Refresh_Graphics(project_, 2, view_.Surface(), messages_);
+    Refresh_Graphics(project_, 2, canvas_.Surface(), messages_);
     const QImage image = canvas_.grab().toImage();
     const QRgb red = qRgb(255, 0, 0), blue = qRgb(0, 0, 255), line = qRgb(255, 0, 255);
     // From left to right around a line, and down across one.
@@ -114,7 +108,7 @@ TEST_F(MapViewTest, DrawingsHaveTheirColoursAndWidthsOverTheImage) {
         EXPECT_EQ(image.pixel(100, y), colour);
 
     project_.VTPCount = 0;
-    Refresh_Graphics(project_, -1, view_.Surface(), messages_);
+    Refresh_Graphics(project_, -1, canvas_.Surface(), messages_);
     EXPECT_EQ(canvas_.grab().toImage().pixel(100, 100), red);
 }
 
@@ -129,7 +123,7 @@ static int Differences(const QImage& a, const QImage& b) {
 TEST_F(MapViewTest, ScrolledPicturesEqualThosePaintedAnew) {
     Load(Encoded(Red_and_blue(1000, 900, QImage::Format_Grayscale8), "jpeg"));
     project_ = Largest_project();
-    Refresh_Graphics(project_, 500, view_.Surface(), messages_);
+    Refresh_Graphics(project_, 500, canvas_.Surface(), messages_);
     for (const QPoint at : {QPoint(0, 0), {7, 0}, {7, 300}, {130, 290}, {600, 600}, {599, 0}}) {
         across_.setValue(at.x());
         down_.setValue(at.y());

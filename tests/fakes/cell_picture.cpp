@@ -31,14 +31,19 @@ void Add_line(Project& project, int mode, std::span<const CellPoint> points) {
     Add_segment(project, mode, 80, places);
 }
 
-std::unique_ptr<Project> Cell_project(std::string_view lines, CellPoint click) {
+Session Cell_session(CellPoint click) {
+    Session session;
+    session.CursorCellX = PictureColumn;
+    session.CursorCellY = PictureRow;
+    session.CursorInCellX = click.X;
+    session.CursorInCellY = click.Y;
+    session.DrawMode = WaterPolygon;
+    return session;
+}
+
+std::unique_ptr<Project> Cell_project(std::string_view lines) {
     auto project = std::make_unique<Project>();
     Place_area(*project, PictureColumn - 2, PictureRow - 1, LastLOD13, LastLOD13);
-    project->CursorCellX = PictureColumn;
-    project->CursorCellY = PictureRow;
-    project->CursorInCellX = click.X;
-    project->CursorInCellY = click.Y;
-    project->DrawMode = WaterPolygon;
     std::istringstream stream{std::string(lines)};
     for (std::string line; std::getline(stream, line, '|');) {
         const auto colon = line.find(':');

@@ -26,8 +26,10 @@ std::string Points_text(std::span<const CellPoint> points);
 // A segment of points in the cell's units.
 void Add_line(Project& project, int mode, std::span<const CellPoint> points);
 
-// A project with these lines, the cursor in the cell at `click`, and water polygons to be built.
-std::unique_ptr<Project> Cell_project(std::string_view lines, CellPoint click = {128, 128});
+std::unique_ptr<Project> Cell_project(std::string_view lines);
+
+// The cursor in the cell at `click`, and water polygons to be built.
+Session Cell_session(CellPoint click = {128, 128});
 
 // The vertices of a polygon of the project.
 Outline LWM_outline(const Project& project, int polygon);

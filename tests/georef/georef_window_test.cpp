@@ -10,8 +10,10 @@ static QString Text(QWidget& dialog, const char* name) {
 
 TEST(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRightAndTakesTheCalculatorsCell) {
     Project project;
+    Session session;
     RecordingMessages messages;
-    CellCalculator calculator(project, messages);
+    CellCalculator calculator(session, messages);
+    BGproperties properties(session, calculator);
     Plan plan;
     project.BGLOD8X = 5;
     plan.Then([](QWidget& dialog) {
@@ -46,7 +48,9 @@ TEST(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRightAndTakesTheCalcul
                 EXPECT_EQ(Text(dialog, "CalcLatText"), "00:00:00.0");
             }
         });
-    Show_background_properties(project, messages, calculator, {1536, 256}, nullptr);
+    Ask_background_properties(
+        project, [&](const GeoreferenceTexts& texts) { return properties.Ask(texts); }, 1536, 256,
+        messages);
     EXPECT_NO_THROW(plan.Finish());
     EXPECT_TRUE(
         messages.Said().ends_with("copy these co-ordinates to the background properties box?"));

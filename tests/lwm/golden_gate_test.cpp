@@ -19,8 +19,8 @@ class GoldenGate : public testing::Test {
     template <class Check>
     void In_every_cell(Check check) {
         for (int cell = 0; cell < 1024; ++cell) {
-            project.CursorCellX = cell % 32;
-            project.CursorCellY = cell / 32;
+            session.CursorCellX = cell % 32;
+            session.CursorCellY = cell / 32;
             SCOPED_TRACE(testing::Message() << "cell " << cell % 32 << ", " << cell / 32);
             check(cell % 32, cell / 32);
         }
@@ -30,8 +30,8 @@ class GoldenGate : public testing::Test {
     // As the coast alone has it: the map's west edge is in the ocean, and every coastline on the
     // way there changes between water and land. A place on a coastline is either.
     bool Is_water(CellPoint place) const {
-        const double x = Cell_edge_VTP(project.CursorCellX) + place.X;
-        const double y = Cell_edge_VTP(project.CursorCellY) + place.Y;
+        const double x = Cell_edge_VTP(session.CursorCellX) + place.X;
+        const double y = Cell_edge_VTP(session.CursorCellY) + place.Y;
         const auto at = [this](int i, int axis) { return double(project.VTPPoint(i, axis)); };
         const auto crossed = std::ranges::count_if(coast, [&](int i) {
             if ((at(i, 1) > y) == (at(i + 1, 1) > y)) return false;
@@ -47,14 +47,15 @@ class GoldenGate : public testing::Test {
 
     Outline Build(CellPoint click) {
         project.LWMCount = 0;
-        project.DrawMode = Is_water(click) ? WaterPolygon : LandPolygon;
-        project.CursorInCellX = click.X;
-        project.CursorInCellY = click.Y;
-        EXPECT_TRUE(Add_LWM_Poly(project, messages, HeightChoice::Conform, "").Added);
+        session.DrawMode = Is_water(click) ? WaterPolygon : LandPolygon;
+        session.CursorInCellX = click.X;
+        session.CursorInCellY = click.Y;
+        EXPECT_TRUE(Add_LWM_Poly(project, session, messages, HeightChoice::Conform, "").Added);
         return LWM_outline(project, 1);
     }
 
     Project project;
+    Session session;
     RecordingMessages messages;
     std::vector<int> coast;  // the points from which a step of a coastline goes on
 };
@@ -91,7 +92,7 @@ TEST_F(GoldenGate, NeighboursMeet) {
         if (across == 0 && cell > 0) entering.push_back({axis, cell, along});
     };
     In_every_cell([&](int column, int row) {
-        const std::vector<Outline> candidates = Candidate_polygons(project, messages);
+        const std::vector<Outline> candidates = Candidate_polygons(project, session, messages);
         for (const Outline& candidate : candidates) {
             if (candidates.size() == 1) return;  // the whole cell
             const auto [x, y] = candidate.front();

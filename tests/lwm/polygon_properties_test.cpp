@@ -120,9 +120,10 @@ TEST_F(PolygonPropertiesTest, EveryRandomCell) {
         const std::string lines = Some_coastlines(count);
         const CellPoint click{random_.Number(1, 254), random_.Number(1, 254)};
         SCOPED_TRACE(lines + Points_text({{click}}));
-        const auto project = Cell_project(lines, click);
+        const auto project = Cell_project(lines);
+        const Session session = Cell_session(click);
         RecordingMessages messages;
-        const auto candidates = Candidate_polygons(*project, messages);
+        const auto candidates = Candidate_polygons(*project, session, messages);
         EXPECT_EQ(std::ssize(candidates), 2 * count);
         const auto pieces = Pieces_of(candidates);
         EXPECT_EQ(std::ssize(pieces), count + 1);
@@ -138,7 +139,8 @@ TEST_F(PolygonPropertiesTest, EveryRandomCell) {
         const auto is_around = [&](const auto& piece) { return Surrounds(piece.second, click); };
         if (!is_around(*nearest) || std::ranges::count_if(pieces, is_around) > 1) continue;
         ++picked;
-        const LWMPolyResult result = Add_LWM_Poly(*project, messages, HeightChoice::Conform, "");
+        const LWMPolyResult result =
+            Add_LWM_Poly(*project, session, messages, HeightChoice::Conform, "");
         ASSERT_TRUE(result.Added && result.StatusLine.empty());
         EXPECT_EQ(Pieces_of({LWM_outline(*project, 1)}).begin()->first, nearest->first);
         EXPECT_EQ(messages.Said(), "");

@@ -28,6 +28,7 @@ class AssemblerFilesTest : public testing::Test {
     }
 
     Project p;
+    Session session;
     FakePlatform fake;
 };
 
@@ -83,8 +84,8 @@ TEST_F(AssemblerFilesTest, WhatCannotBeWrittenIsRefusedAndTheOldFileStays) {
         for (const auto& [x, y] : Points_from(given[1])) points.emplace_back(x, y);
         Add_segment(p, std::stoi(given[0]), 80, points);
         fake.files.Content["v.asm"] = "old";
-        EXPECT_FALSE(Save_VTP_file(p, fake.messages, fake.files));
-        EXPECT_TRUE(p.VTPWriteFailed && fake.files.Content["v.asm"] == "old");
+        EXPECT_FALSE(Save_VTP_file(p, session, fake.messages, fake.files));
+        EXPECT_TRUE(session.VTPWriteFailed && fake.files.Content["v.asm"] == "old");
         return fake.messages.Said();
     });
 }
@@ -97,10 +98,10 @@ TEST_F(AssemblerFilesTest, ASavedFileIsSaidToBeUnlessAnActionWillShowIt) {
         p.VTPNotepad = p.LWMNotepad = notepad;
         p.VTPCompile = p.LWMCompile = compile;
         const bool fails = !fake.files.WriteError.empty();
-        p.VTPWriteFailed = !fails;
-        EXPECT_EQ(Save_VTP_file(p, fake.messages, fake.files), !fails);
+        session.VTPWriteFailed = !fails;
+        EXPECT_EQ(Save_VTP_file(p, session, fake.messages, fake.files), !fails);
         EXPECT_EQ(Save_LWM_file(p, fake.messages, fake.files), !fails);
-        EXPECT_EQ(p.VTPWriteFailed, fails);
+        EXPECT_EQ(session.VTPWriteFailed, fails);
         return fake.messages.Said();
     };
     EXPECT_EQ(said(false, false),

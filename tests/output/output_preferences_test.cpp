@@ -26,14 +26,17 @@ TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
     for (bool Preferences::*flag :
          {&Preferences::FScopy, &Preferences::Check1, &Preferences::Check2, &Preferences::Check3,
           &Preferences::Check4}) {
-        Project project;
+        Session session;
+        Document document(session);
         Preferences preferences{.RootText = "/out/Skye.asm", .FSname = "/fs"};
         preferences.*flag = true;
-        Store_preferences(preferences, project);
+        Confirm_preferences(document, session, preferences);
+        const Project& project = document.Now();
         EXPECT_EQ(project.LWMFileName + project.VTPFileName, "/out/Skye-LWM.asm/out/Skye-VTP.asm");
         EXPECT_EQ(project.LWMNotepad, flag == &Preferences::Check1);
         EXPECT_EQ(project.VTPCompile, flag == &Preferences::Check4);
-        EXPECT_TRUE(project.PrefsSet && project.DataChanged);
+        EXPECT_TRUE(project.PrefsSet && session.DataChanged);
+        EXPECT_TRUE(session.Panel.LWMsave && session.Panel.VTPsave);
         EXPECT_EQ(Shown_preferences(project), preferences);
     }
 }

@@ -8,24 +8,29 @@ namespace tidemark {
 // An area of 2 x 3 cells with its top-left cell at column 3, row 5, and a point in it.
 class EditPointTest : public testing::Test {
   protected:
-    EditPointTest() { Place_area(project, 3, 5, 4, 7); }
-
-    // Opens the dialog for a point at this place, lets the user act and returns what Edit says.
+    // Opens the dialog for a point at this place, lets the user act and returns whether it was
+    // edited.
     bool Edit(int x, int y, const std::function<void()>& user) {
-        project.VTPCount = 0;
-        Add_segment(project, 1, 80, {{x, y}});
+        document.Settle([&](Project& p) {
+            Place_area(p, 3, 5, 4, 7);
+            p.VTPCount = 0;
+            Add_segment(p, 1, 80, {{x, y}});
+        });
         Plan plan;
         plan.Then([&](QWidget&) { user(); });
-        const bool edited = dialog.Edit(1);
+        session.DataChanged = false;
+        dialog.Edit(1);
         EXPECT_NO_THROW(plan.Finish());
-        return edited;
+        return session.DataChanged;
     }
 
     QLineEdit& Field(const char* name) { return Control<QLineEdit>(dialog, name); }
 
-    Project project;
+    Session session;
+    Document document{session};
+    const Project& project = document.Now();
     RecordingMessages messages;
-    EditPoint dialog{project, messages};
+    EditPoint dialog{document, session, messages};
 };
 
 TEST_F(EditPointTest, ShowsThePlaceInTheAreaAndInTheCell) {
@@ -39,14 +44,13 @@ TEST_F(EditPointTest, ShowsThePlaceInTheAreaAndInTheCell) {
                           Field("LOD13X").text() + "/" + Field("LOD13Y").text(),
                       shown);
             EXPECT_EQ(Control<QLabel>(dialog, "CellLabel").text(), cell);
-            EXPECT_EQ(project.CursorInCellX, Field("LOD13X").text().toInt());
+            EXPECT_EQ(session.CursorInCellX, Field("LOD13X").text().toInt());
             EXPECT_TRUE(Field("VTPX").isEnabled() && !Field("LOD13X").isEnabled());
             Type(Field("VTPX"), "5001");
             Press(dialog, Qt::Key_Escape);
         }));
         EXPECT_EQ(project.VTPPoint(1, 0), x);
     }
-    EXPECT_FALSE(project.DataChanged);
 }
 
 TEST_F(EditPointTest, TheChosenFormIsCheckedAndStored) {
@@ -64,7 +68,6 @@ TEST_F(EditPointTest, TheChosenFormIsCheckedAndStored) {
         return Int_text(project.VTPPoint(1, 0)) + ", " + Int_text(project.VTPPoint(1, 1)) +
                (edited ? "" : " ") + said;
     });
-    EXPECT_TRUE(project.DataChanged);
 }
 
 }  // namespace tidemark

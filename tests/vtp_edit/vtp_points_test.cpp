@@ -38,6 +38,7 @@ struct PlainModel : std::vector<PlainPoint> {
 TEST(VTPPointsTest, RandomEditingMakesTheSameProjectAsOnPlainPoints) {
     RandomNumbers random(1);
     Project project;
+    Session session;
     PlainModel model;
     RecordingMessages messages;
     for (int step = 0; step < 9000 && !HasFailure(); ++step) {
@@ -45,16 +46,18 @@ TEST(VTPPointsTest, RandomEditingMakesTheSameProjectAsOnPlainPoints) {
         const int count = project.VTPCount, selected = random.Number(-1, count - 1);
         const int action = selected < 0 ? 0 : random.Number(0, count > 200 ? 9 : 7);
         const int width = random.Number(0, 300), slot = selected + 1;
-        project.DataChanged = false;
         if (action < 4) {
             const bool starts = random.One_in(4), at_end = slot == 0 || slot == count || starts;
-            project.CursorVTPX = random.Number(4080, 12271);
-            project.CursorVTPY = random.Number(4080, 12271);
-            project.DrawMode = random.Number(0, 7);
+            session.CursorVTPX = random.Number(4080, 12271);
+            session.CursorVTPY = random.Number(4080, 12271);
+            session.DrawMode = random.Number(0, 7);
             const int place = at_end ? count : selected;
-            EXPECT_EQ(Add_VTP_Point(project, {selected, starts, width}, messages), place);
+            session.Panel.SelectedPoint = selected;
+            session.Panel.NewSegment = starts;
+            EXPECT_TRUE(Add_VTP_Point(project, session, width, messages));
+            EXPECT_TRUE(session.Panel.SelectedPoint == place && !session.Panel.NewSegment);
             model.insert(model.begin() + place,
-                         {project.CursorVTPX, project.CursorVTPY, project.DrawMode, width, starts});
+                         {session.CursorVTPX, session.CursorVTPY, session.DrawMode, width, starts});
         } else if (action == 4) {
             Change_segment_width(project, slot, width);
             model.Segment_at(selected).front().Width = width;
@@ -71,7 +74,6 @@ TEST(VTPPointsTest, RandomEditingMakesTheSameProjectAsOnPlainPoints) {
             if (next != model.end()) next->Starts |= started;
         }
         if (!model.empty()) model.front().Starts = true;
-        EXPECT_EQ(project.DataChanged, action == 5);
         Repair_segments(project);
         EXPECT_EQ(project, model.Made());
     }
@@ -87,8 +89,10 @@ TEST(VTPPointsTest, LinesShowSegmentsAndTheCodeOfAModeWithoutAName) {
 
 TEST(VTPPointsTest, AFullProjectRefusesThePoint) {
     Project project = Largest_project();
+    Session session;
+    session.Panel = {.NewSegment = false, .SelectedPoint = 3};
     RecordingMessages messages;
-    EXPECT_EQ(Add_VTP_Point(project, {3, false, 80}, messages), std::nullopt);
+    EXPECT_FALSE(Add_VTP_Point(project, session, 80, messages));
     EXPECT_EQ(project, Largest_project());
     EXPECT_EQ(messages.Said(), "The point has not been added: a project holds at most 999 points.");
 }

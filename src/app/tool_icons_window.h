@@ -1,0 +1,11 @@
+// The icons of the tool bar.
+#pragma once
+
+#include "platform/qt_drawn_icon.h"
+
+namespace tidemark {
+
+IconShapes UndoIcon();
+IconShapes RedoIcon();
+
+}  // namespace tidemark

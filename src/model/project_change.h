@@ -1,0 +1,72 @@
+// What one step of the user changed of a project: only that, so that a long history stays small.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "model/project.h"
+
+namespace tidemark {
+
+// A VTP point as the tables keep it.
+struct VTPRecord {
+    Int16 X, Y;
+    bool SegStart, SegEnd;
+    Int16 Mode, Width;
+    bool operator==(const VTPRecord&) const = default;
+};
+
+// A cleared cell.
+struct KillRecord {
+    Int16 Column, Row, Type;
+    bool operator==(const KillRecord&) const = default;
+};
+
+// An LWM polygon; Points holds X and Y of each of its points in turn.
+struct LWMRecord {
+    Int16 Type, Height, Column, Row;
+    std::vector<Int16> Points;
+    bool operator==(const LWMRecord&) const = default;
+};
+
+// From entry number At on (counted from 1), the entries Before were replaced by the entries After.
+template <class Record>
+struct Splice {
+    int At = 1;
+    std::vector<Record> Before, After;
+
+    bool Is_empty() const { return Before.empty() && After.empty(); }
+};
+
+// A value that is no entry of a table, by its place in the order of the project file.
+struct ValueChange {
+    using Value = std::variant<Int16, float, bool, std::string>;
+    std::size_t Place;
+    Value Before, After;
+};
+
+class ProjectChange {
+  public:
+    // Takes `before` to `after`. The position that the polygon builder looked at last is left out
+    // (PointInCellX, PointInCellY): it is a by-product and no work of the user's.
+    ProjectChange(const Project& before, const Project& after);
+
+    bool Is_empty() const;
+
+    // On a project that is as `before` (`after`) was: makes it as `after` (`before`). Everything
+    // comes back to the bit; a value that did not change is not touched.
+    void Apply(Project& project) const;
+    void Revert(Project& project) const;
+
+    std::size_t Bytes() const;  // of memory, outside the object itself
+
+  private:
+    std::vector<ValueChange> values_;
+    Splice<VTPRecord> points_;
+    Splice<KillRecord> cells_;
+    Splice<LWMRecord> polygons_;
+};
+
+}  // namespace tidemark
