@@ -56,6 +56,8 @@ Status::Status(Document& document, Session& session, Messages& messages, QWidget
     const auto* const hide_button = Add_button(*buttons, "HideButton", "Hide Status Panel");
     connect(hide_button, &QPushButton::clicked, this, &Status::hide);
 
+    for (QLineEdit* const field : findChildren<QLineEdit*>())
+        field->installEventFilter(new LeavesUndoToWindow(field));
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, vtp_, &VTPFrame::Start_new_segment);
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, lwm_, &LWMFrame::Mode_chosen);
     connect(vtp_, &VTPFrame::Graphics_outdated, this, &Status::Graphics_outdated);

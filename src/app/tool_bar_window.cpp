@@ -40,6 +40,7 @@ ToolBar::ToolBar(QWidget* parent)
                             {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})) {
     setObjectName("ToolBar");
     setMovable(false);
+    setIconSize({20, 20});
     for (QAction* const action : {EditUndo_, EditRedo_}) action->setEnabled(false);
 }
 

@@ -14,7 +14,11 @@ namespace {
 
 struct Points {
     using Record = VTPRecord;
-    static Int16& Count(Project& p) { return p.VTPCount; }
+    // The slot behind the last point starts no segment, as after every refresh of the list.
+    static void Set_count(Project& p, int count) {
+        p.VTPCount = count;
+        p.VTPSegStart(count + 1) = false;
+    }
     static int Count(const Project& p) { return p.VTPCount; }
     static bool Equal(const Project& a, int i, const Project& b, int j) {
         return Get(a, i) == Get(b, j);
@@ -35,7 +39,7 @@ struct Points {
 
 struct ClearedCells {
     using Record = KillRecord;
-    static Int16& Count(Project& p) { return p.KillCount; }
+    static void Set_count(Project& p, int count) { p.KillCount = count; }
     static int Count(const Project& p) { return p.KillCount; }
     static bool Equal(const Project& a, int i, const Project& b, int j) {
         return Get(a, i) == Get(b, j);
@@ -52,7 +56,7 @@ struct ClearedCells {
 
 struct Polygons {
     using Record = LWMRecord;
-    static Int16& Count(Project& p) { return p.LWMCount; }
+    static void Set_count(Project& p, int count) { p.LWMCount = count; }
     static int Count(const Project& p) { return p.LWMCount; }
     static bool Equal(const Project& a, int i, const Project& b, int j) {
         bool equal = a.LWMPointCount(i) == b.LWMPointCount(j) && a.LWMType(i) == b.LWMType(j) &&
@@ -110,7 +114,7 @@ Splice<typename Entries::Record> Difference(const Project& before, const Project
 template <class Entries, class Record = typename Entries::Record>
 void Replace(Project& project, int at, const std::vector<Record>& old,
              const std::vector<Record>& with) {
-    const int count = Entries::Count(std::as_const(project));
+    const int count = Entries::Count(project);
     int next = at;
     if (old.size() == with.size()) {
         for (const Record& record : with) Entries::Set(project, next++, record);
@@ -119,7 +123,7 @@ void Replace(Project& project, int at, const std::vector<Record>& old,
     const auto behind = Records<Entries>(project, at + static_cast<int>(old.size()), count);
     for (const Record& record : with) Entries::Set(project, next++, record);
     for (const Record& record : behind) Entries::Set(project, next++, record);
-    Entries::Count(project) = next - 1;
+    Entries::Set_count(project, next - 1);
 }
 
 // Points at every value of a project but the entries of its tables, their counts and the place that

@@ -1,6 +1,7 @@
 // Making controls that carry their own names.
 #pragma once
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QString>
 
@@ -20,5 +21,23 @@ inline QLineEdit* Named_field(const char* name, const QString& spoken, const QSt
     field->setAccessibleName(spoken);
     return field;
 }
+
+// For the fields of a window with an Undo of its own: as long as nothing that was typed can be undone
+// (redone), the field leaves the keys for it to the window.
+class LeavesUndoToWindow : public QObject {
+  public:
+    using QObject::QObject;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::ShortcutOverride) return false;
+        const auto& field = static_cast<const QLineEdit&>(*watched);
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const bool is_left = (key.matches(QKeySequence::Undo) && !field.isUndoAvailable()) ||
+                             (key.matches(QKeySequence::Redo) && !field.isRedoAvailable());
+        if (is_left) event->ignore();
+        return is_left;
+    }
+};
 
 }  // namespace tidemark
