@@ -5,19 +5,9 @@
 #include <span>
 
 #include "geography.h"
+#include "model/drawing_modes.h"
 
 namespace tidemark {
-
-// Drawing modes.
-inline constexpr int PlainSegment = 0;
-inline constexpr int SandWithWaves = 1;
-inline constexpr int SandNoWaves = 2;
-inline constexpr int IceWithWaves = 3;
-inline constexpr int RiverCoast = 4;
-inline constexpr int Stream = 5;
-inline constexpr int DirtRoad = 6;
-inline constexpr int OneLane = 7;
-inline constexpr int TwoLanes = 9;
 
 // The drawing mode of the coast at a point.
 int Coast_mode(GeoPoint point);

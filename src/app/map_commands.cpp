@@ -40,9 +40,8 @@ void Change_background_properties(Document& document, Messages& messages, const 
 
 void Reload_background(Document& document, Session& session, Messages& messages,
                        const ShowImage& show_image) {
-    document.Settle([&](Project& project) {
-        Load_background_file(project, session, messages, show_image);
-    });
+    document.Settle(
+        [&](Project& project) { Load_background_file(project, session, messages, show_image); });
 }
 
 }  // namespace tidemark

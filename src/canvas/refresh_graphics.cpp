@@ -35,16 +35,17 @@ struct SegmentPen {
 };
 
 constexpr std::array<SegmentPen, 9> SegmentPens{{
-    {0, 1, LightMagenta},
-    {1, 2, LightYellow},
-    {2, 2, LightYellow},
-    {3, 2, BrightWhite},
-    {4, 2, LightYellow},
-    {5, 2, LightCyan},
-    {6, 2, DarkYellow},
-    {7, 1, Black},
-    {9, 2, Black},
+    {PlainSegment, 1, LightMagenta},
+    {SandWithWaves, 2, LightYellow},
+    {SandNoWaves, 2, LightYellow},
+    {IceWithWaves, 2, BrightWhite},
+    {RiverCoast, 2, LightYellow},
+    {Stream, 2, LightCyan},
+    {DirtRoad, 2, DarkYellow},
+    {OneLane, 1, Black},
+    {TwoLanes, 2, Black},
 }};
+static_assert(Covers_modes(SegmentPens, Adds::Point), "every drawing mode has a pen");
 
 // A cleared cell shows as a square of side 2 * HalfSize with both diagonals. The sizes differ, so
 // the squares of one cell nest.
@@ -60,6 +61,7 @@ constexpr std::array<CellMark, 4> CellMarks{{
     {ClearMinorRoads, Gray, 100},
     {ClearMajorRoads, Black, 90},
 }};
+static_assert(Covers_modes(CellMarks, Adds::ClearedCell), "every clear code has a mark");
 
 // The mark's lines as they are drawn, from corner to corner, in half-sizes from the cell's centre.
 struct MarkLine {

@@ -19,13 +19,12 @@ std::string Cursor_cell_text(const Session& session) {
 LWMPolyResult Click_polygon(Document& document, Session& session, HeightChoice choice,
                             const std::string& height_text, Messages& messages) {
     const std::string kind = session.DrawMode == WaterPolygon ? "water" : "land";
-    return document.Do("add " + kind + " polygon " + Cursor_cell_text(session),
-                       [&](Project& project) {
-                           auto result =
-                               Add_LWM_Poly(project, session, messages, choice, height_text);
-                           Refresh_LWM_List(project, session);
-                           return result;
-                       });
+    return document.Do(
+        "add " + kind + " polygon " + Cursor_cell_text(session), [&](Project& project) {
+            auto result = Add_LWM_Poly(project, session, messages, choice, height_text);
+            Refresh_LWM_List(project, session);
+            return result;
+        });
 }
 
 void Delete_selected_polygon(Document& document, Session& session) {

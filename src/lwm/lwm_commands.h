@@ -1,5 +1,5 @@
-// The user's commands on LWM polygons and cleared cells, each one step of the document. Deleting does
-// nothing when nothing is selected, and does not set DataChanged.
+// The user's commands on LWM polygons and cleared cells, each one step of the document. Deleting
+// does nothing when nothing is selected, and does not set DataChanged.
 #pragma once
 
 #include <string>

@@ -36,8 +36,11 @@ void Document::Record(Kind kind, std::string name, const Session& before) {
     if (kind == Kind::Step && !change.Is_empty()) {
         for (const Step& step : undone_) bytes_ -= step.Bytes();
         undone_.clear();
-        Step step{std::move(name), std::move(change),
-                  {before.Panel, settled_->PointInCellX, settled_->PointInCellY}, after, nullptr};
+        Step step{std::move(name),
+                  std::move(change),
+                  {before.Panel, settled_->PointInCellX, settled_->PointInCellY},
+                  after,
+                  nullptr};
         if (before.Opened != session_.Opened)
             step.Renamed.reset(new Renaming{before.Opened, session_.Opened});
         bytes_ += step.Bytes();

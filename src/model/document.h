@@ -17,9 +17,9 @@ namespace tidemark {
 // Bytes, the most that the history of a document takes.
 inline constexpr std::size_t MaxHistoryBytes = std::size_t{64} << 20;
 
-// Holds the project, which can be seen everywhere and changed here only. Each command of the user is
-// one step, which can be undone and redone. With the project a step takes back what belongs to it of
-// the session: the state of the panel, and the names under which a project was opened.
+// Holds the project, which can be seen everywhere and changed here only. Each command of the user
+// is one step, which can be undone and redone. With the project a step takes back what belongs to
+// it of the session: the state of the panel, and the names under which a project was opened.
 class Document {
   public:
     // `most_bytes` is what the history may take; the oldest steps go first.
@@ -89,7 +89,8 @@ class Document {
         std::size_t Bytes() const;
     };
 
-    // Made before a change; unless it is committed, its end takes everything back to what it was then.
+    // Made before a change; unless it is committed, its end takes everything back to what it was
+    // then.
     class Transaction {
       public:
         explicit Transaction(Document& document);

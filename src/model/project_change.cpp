@@ -243,7 +243,8 @@ void ProjectChange::Revert(Project& project) const {
 
 std::size_t ProjectChange::Bytes() const {
     std::size_t bytes = values_.capacity() * sizeof(ValueChange);
-    for (const ValueChange& value : values_) bytes += Bytes_of(value.Before) + Bytes_of(value.After);
+    for (const ValueChange& value : values_)
+        bytes += Bytes_of(value.Before) + Bytes_of(value.After);
     return bytes + Bytes_of(points_.Before) + Bytes_of(points_.After) + Bytes_of(cells_.Before) +
            Bytes_of(cells_.After) + Bytes_of(polygons_.Before) + Bytes_of(polygons_.After);
 }
@@ -252,8 +253,7 @@ bool operator==(const Project& a, const Project& b) {
     bool same = a.PointInCellX == b.PointInCellX && a.PointInCellY == b.PointInCellY &&
                 Same_entries<Points>(a, b) && Same_entries<ClearedCells>(a, b) &&
                 Same_entries<Polygons>(a, b);
-    if (same)
-        For_each_changed_value(a, b, [&same](auto&&...) { same = false; });
+    if (same) For_each_changed_value(a, b, [&same](auto&&...) { same = false; });
     return same;
 }
 

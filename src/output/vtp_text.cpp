@@ -18,21 +18,23 @@ namespace {
 // A texture's id is its place in this table; the drawing mode fixes it. Layers have the numbers of
 // the clear codes.
 struct Texture {
-    int Mode;
+    int Code;  // drawing mode
     int Layer;
     std::string_view Name;
 };
 
 constexpr std::array<Texture, 8> Textures{{
-    {1, ClearCoastlines, "1029"},
-    {2, ClearCoastlines, "1062"},
-    {3, ClearCoastlines, "1031"},
-    {4, ClearCoastlines, "1116"},
-    {5, ClearRivers, "1024"},
-    {6, ClearMinorRoads, "1040"},
-    {7, ClearMajorRoads, "1158"},
-    {9, ClearMajorRoads, "1134"},
+    {SandWithWaves, ClearCoastlines, "1029"},
+    {SandNoWaves, ClearCoastlines, "1062"},
+    {IceWithWaves, ClearCoastlines, "1031"},
+    {RiverCoast, ClearCoastlines, "1116"},
+    {Stream, ClearRivers, "1024"},
+    {DirtRoad, ClearMinorRoads, "1040"},
+    {OneLane, ClearMajorRoads, "1158"},
+    {TwoLanes, ClearMajorRoads, "1134"},
 }};
+static_assert(Covers_modes(Textures, Adds::Point, PlainSegment),
+              "every drawing mode but the plain edge, which is not written, has a texture");
 
 constexpr std::array Layers{ClearCoastlines, ClearRivers, ClearMinorRoads, ClearMajorRoads};
 
@@ -107,7 +109,7 @@ class VTPText {
 
     void Layer(int layer) {
         const auto in_use = [&](const Texture& texture) {
-            return texture.Layer == layer && Segment_count(texture.Mode) > 0;
+            return texture.Layer == layer && Segment_count(texture.Code) > 0;
         };
         const auto count = std::count_if(Textures.begin(), Textures.end(), in_use);
         if (count == 0) return;
@@ -122,10 +124,10 @@ class VTPText {
 
     void Segments_of(const Texture& texture) {
         Line("    VTPTextureId ", Int_text(&texture - Textures.data()), ", 0");
-        Line("    VTPPolyCount ", Int_text(Segment_count(texture.Mode)), ", 0");
+        Line("    VTPPolyCount ", Int_text(Segment_count(texture.Code)), ", 0");
         Line(BlankLine);
         for (const Segment& segment : segments_)
-            if (segment.Mode == texture.Mode) Polygon_record(segment);
+            if (segment.Mode == texture.Code) Polygon_record(segment);
     }
 
     void Polygon_record(const Segment& segment) {
@@ -197,7 +199,7 @@ class VTPText {
 int Written_segment_count(const Project& project) {
     const std::vector<Segment> segments = Segments(project);
     return static_cast<int>(std::count_if(segments.begin(), segments.end(),
-                                          [](const Segment& s) { return s.Mode > 0; }));
+                                          [](const Segment& s) { return s.Mode > PlainSegment; }));
 }
 
 std::string VTP_file_bytes(const Project& project) {

@@ -22,8 +22,8 @@ inline QLineEdit* Named_field(const char* name, const QString& spoken, const QSt
     return field;
 }
 
-// For the fields of a window with an Undo of its own: as long as nothing that was typed can be undone
-// (redone), the field leaves the keys for it to the window.
+// For the fields of a window with an Undo of its own: as long as nothing that was typed can be
+// undone (redone), the field leaves the keys for it to the window.
 class LeavesUndoToWindow : public QObject {
   public:
     using QObject::QObject;

@@ -51,9 +51,8 @@ void Reverse_selected_segment(Document& document, Session& session) {
 }
 
 void Move_point(Document& document, Session& session, int point, const EditPointTexts& texts) {
-    Do_on_point(document, session, "edit point", point, [&](Project& project) {
-        Store_edit_point(project, session, point, texts);
-    });
+    Do_on_point(document, session, "edit point", point,
+                [&](Project& project) { Store_edit_point(project, session, point, texts); });
 }
 
 }  // namespace tidemark

@@ -20,6 +20,23 @@ static bool Is_window(const std::string& name) {
            name == "main_tidemark.cpp";
 }
 
+// Windows see the project through the gate: none names one that it could change.
+TEST(LayersTest, WindowsNameNoProjectThatTheyCouldChange) {
+    const std::regex changeable(R"re((^|[^:\w])(const )?Project[&*])re");
+    int windows = 0;
+    for (const auto& entry : fs::recursive_directory_iterator(TIDEMARK_SOURCE_DIR "/src")) {
+        if (!Is_window(entry.path().filename().string())) continue;
+        ++windows;
+        std::ifstream file(entry.path());
+        for (std::string line; std::getline(file, line);) {
+            std::smatch found;
+            EXPECT_TRUE(!std::regex_search(line, found, changeable) || found[2].matched)
+                << entry.path() << ": " << line;
+        }
+    }
+    EXPECT_GT(windows, 30);
+}
+
 TEST(LayersTest, IncludesRunAlongTheArrowsAndRulesSeeNoQt) {
     const std::regex include(R"re(#include ([<"])(?:(\w+)/)?([\w.]+)[>"])re");
     int seen = 0;
@@ -33,9 +50,10 @@ TEST(LayersTest, IncludesRunAlongTheArrowsAndRulesSeeNoQt) {
             ++seen;
             const std::string target = found[3];
             const bool is_own = found[1] == "\"";
-            EXPECT_TRUE(!is_own || May_include(room, found[2])) << room << "/" << name << line;
+            EXPECT_TRUE(!is_own || May_include(room, found[2]))
+                << room << "/" << name << ": " << line;
             EXPECT_TRUE(Is_window(name) || !(is_own ? Is_window(target) : target.starts_with("Q")))
-                << room << "/" << name << line;
+                << room << "/" << name << ": " << line;
         }
     }
     EXPECT_GT(seen, 100);
