@@ -1,6 +1,7 @@
 // Adding and deleting points in the main window: the handler, the list, the redraw and the paint
 // together.
 #include <memory>
+#include <string>
 
 #include <QCoreApplication>
 #include <QImage>
@@ -61,6 +62,11 @@ class Editor {
         Finish_painting();
     }
 
+    void Trigger(const char* action) {
+        window_.findChild<QAction*>(action)->trigger();
+        Finish_painting();
+    }
+
     void Refresh_graphics() {
         window_.findChild<QPushButton*>("RefreshButton")->click();
         Finish_painting();
@@ -102,6 +108,42 @@ void Redraw_only(benchmark::State& state, Holds holds) {
     for (auto _ : state) editor.Refresh_graphics();
 }
 
+void Record_steps(benchmark::State& state, const Project& project) {
+    Session session;
+    Document document(session);
+    document.Settle([&](Project& p) { p = project; });
+    Int16 by = 1;
+    for (auto _ : state) {
+        by = -by;
+        document.Do("edit point 500", [&](Project& p) { p.VTPPoint(500, 0) += by; });
+    }
+    if (!document.Can_undo()) state.SkipWithError("no step was recorded");
+}
+
+void Record_on_largest(benchmark::State& state) {
+    Record_steps(state, Largest_project());
+}
+
+void Record_on_sample(benchmark::State& state) {
+    Project sample;
+    std::string bytes;
+    DiskFiles().Read(TIDEMARK_SOURCE_DIR "/sample/golden-gate.TDM", MaxProjectFileSize, bytes);
+    Read_project(bytes, sample);
+    Record_steps(state, sample);
+}
+
+// Undoing and redoing by turns.
+void Travel(benchmark::State& state, Holds holds) {
+    Editor editor(holds);
+    editor.Click_map();
+    bool back = true;
+    for (auto _ : state) {
+        editor.Trigger(back ? "EditUndo" : "EditRedo");
+        back = !back;
+        if (editor.Points() != (back ? 999 : 998)) state.SkipWithError("nothing was undone");
+    }
+}
+
 const bool registered = [] {
     const auto measure = [](const char* name, auto function, Holds holds) {
         benchmark::RegisterBenchmark(name, function, holds)->UseRealTime()->Iterations(100);
@@ -113,6 +155,13 @@ const bool registered = [] {
     measure("each point while Delete is held [16 ms]|redrawing alone", Redraw_only, points);
     measure("adding it to the largest project|tidemark", Add_last_point, everything);
     measure("adding it to the largest project|redrawing alone", Redraw_only, everything);
+    const char* const recording = "recording a step on the largest project [0.1x]|";
+    benchmark::RegisterBenchmark((std::string(recording) + "tidemark").c_str(), Record_on_largest);
+    measure((std::string(recording) + "one redraw of it").c_str(), Redraw_only, everything);
+    benchmark::RegisterBenchmark("recording a step on the sample [50 us]|tidemark",
+                                 Record_on_sample);
+    measure("undoing or redoing on the largest project|tidemark", Travel, everything);
+    measure("undoing or redoing on the largest project|redrawing alone", Redraw_only, everything);
     return true;
 }();
 
