@@ -74,6 +74,8 @@ OpenResult Open_project(const std::string& path, Project& project, Platform& pla
     std::string bytes;
     const FileResult read = platform.files.Read(path, MaxProjectFileSize, bytes);
     if (!read) return {false, Refusal(path, 1, read.Reason())};
+    if (!Reads_as_project(bytes))
+        return {false, Last_part(path) + ": " + std::string(NoProjectText)};
 
     const ProjectFileReading reading = Read_project(bytes, project);
     if (reading.Error) return {false, Refusal(path, reading.Error->Line, reading.Error->What)};

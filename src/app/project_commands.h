@@ -28,8 +28,8 @@ struct OpenResult {
 
 // Replaces the project by that of a file. A missing file is told with Warn, and ProjectFile keeps
 // its path. A file that is no project is refused as a whole: the project stays as it was, and
-// Status names the file, the line and what is wrong. DataChanged stays for the caller to clear, who
-// has the background to load first.
+// Status names the file, the line and what is wrong, or says that it is none. DataChanged stays for
+// the caller to clear, who has the background to load first.
 OpenResult Open_project(const std::string& path, Project& project, Platform& platform);
 
 // Whether the program may end: asks while there are unsaved changes.
