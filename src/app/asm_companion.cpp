@@ -8,6 +8,7 @@
 #include "model/project_file.h"
 #include "model/segments.h"
 #include "output/assembler_files.h"
+#include "output/foreign_file.h"
 
 namespace tidemark {
 
@@ -35,6 +36,10 @@ bool Read_and_repair(const std::string& path, Project& project, Files& files,
     std::string bytes;
     if (const FileResult read = files.Read(path, MaxProjectFileSize, bytes); !read) {
         errors << path << ": " << read.Reason() << '\n';
+        return false;
+    }
+    if (!Reads_as_project(bytes)) {
+        errors << path << ": " << NoProjectText << '\n';
         return false;
     }
     const ProjectFileReading reading = Read_project(bytes, project);
@@ -85,12 +90,18 @@ class Companion {
     }
 
   private:
-    // A name that leads to a file of this run is refused: what was written first would be lost.
+    // A name that leads to a file of this run is refused: what was written first would be lost. So
+    // is one that leads to somebody else's work.
     template <class Write_file>
     bool Write(const std::string& project, const std::string& name, Write_file write_file) {
         const auto is_name = [&](const auto& other) { return files_.Is_same_file(name, other); };
         if (std::ranges::any_of(written_, is_name)) {
             errors_ << project << ": " << name << " would be written twice\n";
+            return false;
+        }
+        if (Is_foreign_file(name, files_)) {
+            errors_ << project << ": " << name
+                    << " is there and is no assembler file of Tidemark; it is left as it is\n";
             return false;
         }
         if (!write_file()) return false;
