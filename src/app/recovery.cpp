@@ -35,6 +35,8 @@ LostWorks Recovery::Find_lost() {
     for (const std::string& name : Names_in(folder_)) {
         if (!name.ends_with(Ending)) continue;
         RecoverySlot slot = Slot(folder_, name.substr(0, name.size() - Ending.size()));
+        if (!slot.Lock.Reason().empty())
+            lost.Complaints.push_back(slot.LockFile + ": " + slot.Lock.Reason());
         // Its editor may have removed it before its lock was free.
         if (!slot.Lock.Is_held() || !files_.Exists(slot.File)) continue;
         std::string bytes;
@@ -78,18 +80,22 @@ FileResult Recovery::Discard(LostWork& lost) {
     return removed;
 }
 
-// The first name that no editor has and that holds no lost work.
+// The first name that no editor has and that holds no lost work. A lock that cannot be had, such as
+// one of another user, is no reason against the next name.
 FileResult Recovery::Take_slot() {
     if (FileResult made = Make_folder(folder_); !made) return made;
-    for (int number = 1;; ++number) {
+    constexpr int most_slots = 1000;
+    std::string reason = "Too many recovery files";
+    for (int number = 1; number <= most_slots; ++number) {
         const std::string name = std::to_string(number);
         if (files_.Exists(folder_ + "/" + name + std::string(Ending))) continue;
         RecoverySlot slot = Slot(folder_, name);
-        if (!slot.Lock.Reason().empty()) return FileResult::Failed(slot.Lock.Reason());
+        if (!slot.Lock.Reason().empty()) reason = slot.Lock.Reason();
         if (!slot.Lock.Is_held() || files_.Exists(slot.File)) continue;
         slot_ = std::move(slot);
         return FileResult::Done();
     }
+    return FileResult::Failed(reason);
 }
 
 FileResult Recovery::Tend(const std::string& project_path, const Project& project,

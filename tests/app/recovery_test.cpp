@@ -128,14 +128,15 @@ TEST_F(RecoveryTest, ADamagedFileIsSetAsideAndANewerOneLeftAlone) {
 
 TEST_F(RecoveryTest, WhatCannotBeWrittenSaysWhyAndLeavesWhatWasWritten) {
     Write_file(folder_ / "file", "");
-    EXPECT_EQ(Editor(folder_ / "file/state", files_).Write_at("now", work_).Reason(),
-              "Not a directory");
+    EXPECT_NE(Editor(folder_ / "file/state", files_).Write_at("now", work_).Reason(), "");
+    std::filesystem::create_directories(path_ + "/1.lock");
+    Write_file(path_ + "/1.recovery", "of nobody that can be asked");
     Lose("then", work_);
     Project unsavable;
     unsavable.FSFolder = "two\nlines";
     Editor editor(path_, files_);
     EXPECT_EQ(editor.Write_at("now", unsavable).Reason(), "FSFolder cannot be saved");
-    EXPECT_EQ(Found(), "then\n");
+    EXPECT_TRUE(Found().starts_with("then\n" + path_ + "/1.lock: ")) << Found();
 }
 
 }  // namespace tidemark
