@@ -34,6 +34,7 @@ void Read_and_write(std::string_view bytes) {
     }
     Check(!Unsavable_text(*project), "what was read can be saved");
     const std::string written = Project_bytes(*project, "now");
+    Check(Reads_as_project(written), "what was written reads as a project");
     Check(!Read_project(written, *again).Error, "what was written can be read");
     Take_scale(again->ScaleX, project->ScaleX);
     Take_scale(again->ScaleY, project->ScaleY);

@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <ostream>
 
-#include "lwm/lwm_list.h"
+#include "app/read_project.h"
 #include "model/path_text.h"
-#include "model/project_file.h"
-#include "model/segments.h"
 #include "output/assembler_files.h"
+#include "output/foreign_file.h"
 
 namespace tidemark {
 
@@ -32,18 +31,14 @@ class ConsoleMessages : public Messages {
 // Reads a project and puts its tables right, as opening it in the editor does.
 bool Read_and_repair(const std::string& path, Project& project, Files& files,
                      std::ostream& errors) {
-    std::string bytes;
-    if (const FileResult read = files.Read(path, MaxProjectFileSize, bytes); !read) {
-        errors << path << ": " << read.Reason() << '\n';
+    const ProjectFileResult reading = Read_project_file(path, project, files);
+    if (!reading.IsRead) {
+        errors << path << ": ";
+        if (reading.Line > 0) errors << "line " << reading.Line << ": ";
+        errors << reading.Remark << '\n';
         return false;
     }
-    const ProjectFileReading reading = Read_project(bytes, project);
-    if (reading.Error) {
-        errors << path << ": line " << reading.Error->Line << ": " << reading.Error->What << '\n';
-        return false;
-    }
-    Repair_segments(project);
-    Drop_closing_points(project);
+    Repair_project(project);
     return true;
 }
 
@@ -86,12 +81,18 @@ class Companion {
     }
 
   private:
-    // A name that leads to a file of this run is refused: what was written first would be lost.
+    // A name that leads to a file of this run is refused: what was written first would be lost. So
+    // is one that leads to somebody else's work.
     template <class Write_file>
     bool Write(const std::string& project, const std::string& name, Write_file write_file) {
         const auto is_name = [&](const auto& other) { return files_.Is_same_file(name, other); };
         if (std::ranges::any_of(written_, is_name)) {
             errors_ << project << ": " << name << " would be written twice\n";
+            return false;
+        }
+        if (Is_foreign_file(name, files_)) {
+            errors_ << project << ": " << name
+                    << " is there and is no assembler file of Tidemark; it is left as it is\n";
             return false;
         }
         if (!write_file()) return false;

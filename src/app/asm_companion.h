@@ -18,7 +18,7 @@ struct CompanionTask {
 // polygons. A name that the project does not hold is the project's own with -VTP.asm or -LWM.asm.
 // Prints a line for each file written to `out`; refusals go to `errors` after the project's name.
 // The two files of a project, and the projects, do not depend on one another, but no file is
-// written twice. True when nothing was refused.
+// written twice, and none is replaced that was not written here. True when nothing was refused.
 bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
                            std::ostream& errors);
 

@@ -18,6 +18,13 @@ constexpr const char* Usage =
     "  --help               show this help\n"
     "  --version            show the version\n";
 
+// The exit code, once all that was printed has been taken: a full disk is no success.
+int Ended(int code) {
+    if (std::cout.flush()) return code;
+    std::cerr << "tidemark-asm: standard output cannot be written to\n";
+    return ExitRefused;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -41,10 +48,10 @@ int main(int argc, char** argv) {
                 break;
             case 'h':
                 std::cout << Usage;
-                return 0;
+                return Ended(0);
             case 'v':
                 std::cout << "tidemark-asm " TIDEMARK_VERSION "\n";
-                return 0;
+                return Ended(0);
             default:
                 std::cerr << Usage;
                 return ExitUsage;
@@ -58,5 +65,6 @@ int main(int argc, char** argv) {
         return ExitUsage;
     }
     tidemark::DiskFiles files;
-    return Write_assembler_files(task, files, std::cout, std::cerr) ? 0 : ExitRefused;
+    const bool all_written = Write_assembler_files(task, files, std::cout, std::cerr);
+    return Ended(all_written ? 0 : ExitRefused);
 }

@@ -1,6 +1,7 @@
 #include "app/project_commands.h"
 
 #include "app/map_commands.h"
+#include "app/read_project.h"
 #include "model/path_text.h"
 #include "model/project_file.h"
 
@@ -25,10 +26,6 @@ bool Check_texts(const Project& project, Messages& messages) {
         Warn(messages,
              *unsavable + " cannot be saved: it holds a line end or a NUL, or it is too long.");
     return !unsavable;
-}
-
-std::string Refusal(const std::string& path, int line, const std::string& what) {
-    return Last_part(path) + ", line " + std::to_string(line) + ": " + what;
 }
 
 }  // namespace
@@ -85,39 +82,30 @@ void Take_over(const std::string& path, Project& project, Session& session, Mess
     session.Opened.FileSave = true;
 }
 
-// Reads the file into the project; nothing but a line for the status bar when it is refused.
-struct Reading {
-    bool IsRead;
-    std::string Status;
-};
-Reading Read_file(const std::string& path, Project& project, Files& files) {
-    std::string bytes;
-    const FileResult read = files.Read(path, MaxProjectFileSize, bytes);
-    if (!read) return {false, Refusal(path, 1, read.Reason())};
-    const ProjectFileReading reading = Read_project(bytes, project);
-    if (reading.Error) return {false, Refusal(path, reading.Error->Line, reading.Error->What)};
-    if (reading.EndedAtLine == 0) return {true, ""};
-    return {true, Refusal(path, reading.EndedAtLine,
-                          "the file ends early; the values that are missing are 0, off or empty")};
+// The line of the status bar about a file: "bay.TDM, line 3: ...".
+std::string Status_line(const std::string& path, const ProjectFileResult& reading) {
+    if (reading.Remark.empty()) return "";
+    const std::string line = reading.Line == 0 ? "" : ", line " + std::to_string(reading.Line);
+    return Last_part(path) + line + ": " + reading.Remark;
 }
 
 }  // namespace
 
 std::string Open_project(const std::string& path, Document& document, Session& session,
                          Platform& platform, const ShowImage& show_image) {
+    const std::string step = "open " + Last_part(path);
     if (!platform.files.Exists(path)) {
-        document.Do("open " + Last_part(path),
-                    [&](Project& project) { project.ProjectFile = path; });
+        document.Do(step, [&](Project& project) { project.ProjectFile = path; });
         Warn(platform.messages, path + " not found!");
         return "";
     }
-    const Reading reading = document.Do("open " + Last_part(path), [&](Project& project) {
-        Reading read = Read_file(path, project, platform.files);
+    const auto reading = document.Do(step, [&](Project& project) {
+        auto read = Read_project_file(path, project, platform.files);
         if (read.IsRead) Take_over(path, project, session, platform.messages, show_image);
         return read;
     });
     if (reading.IsRead) document.Mark_saved();
-    return reading.Status;
+    return Status_line(path, reading);
 }
 
 bool May_exit(const Session& session, Messages& messages) {

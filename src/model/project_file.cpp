@@ -123,6 +123,16 @@ class Writer {
     LineWriter& lines_;
 };
 
+// Whether a line begins as a number, blanks before it not counted.
+bool Begins_as_number(std::string_view line) {
+    const auto is_digit = [&](std::size_t at) {
+        return at < line.size() && line[at] >= '0' && line[at] <= '9';
+    };
+    std::size_t at = std::min(line.find_first_not_of(' '), line.size());
+    if (at < line.size() && (line[at] == '-' || line[at] == '+')) ++at;
+    return is_digit(at) || (at < line.size() && line[at] == '.' && is_digit(at + 1));
+}
+
 // Finds the first text that would not come back from a line of its own.
 struct TextCheck {
     std::optional<std::string> Unsavable;
@@ -133,6 +143,21 @@ struct TextCheck {
 };
 
 }  // namespace
+
+bool Reads_as_project(std::string_view bytes) {
+    constexpr int last_header_line = 18;
+    LineReader lines(bytes);
+    const std::string_view first = lines.Read_line();
+    if (bytes.empty()) return true;
+    const bool has_date = first.find(" saved on ") != first.npos && first.find('\0') == first.npos;
+    int numbers = 0, others = 0;
+    while (lines.Line() < last_header_line) {
+        const std::string_view line = lines.Read_line();
+        if (line.find('\0') != line.npos) return false;
+        if (line.find_first_not_of(' ') != line.npos) ++(Begins_as_number(line) ? numbers : others);
+    }
+    return has_date || numbers > others;
+}
 
 ProjectFileReading Read_project(std::string_view bytes, Project& project) {
     LineReader lines(bytes);

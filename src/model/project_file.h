@@ -46,6 +46,15 @@ struct ProjectFileReading {
     int EndedAtLine = 0;
 };
 
+// Whether bytes can be those of a project file, however odd or short: the first line says " saved
+// on ", or most of what stands on lines 2 to 18 begins as a number, and there is no NUL on them. No
+// bytes at all can be, too. Read_project takes any bytes; this tells what is plainly something
+// else.
+bool Reads_as_project(std::string_view bytes);
+
+// What is said, after its name and a colon, of a file that does not.
+inline constexpr std::string_view NoProjectText = "this is no Tidemark project";
+
 // Reads a project file's bytes into the project: everything that the file keeps is replaced, the
 // rest (editing state, cursor) stays. Any bytes at all are taken. On an error the project is as it
 // was: a number outside 16 bits, a scale that is no 32-bit number, a count that does not fit its

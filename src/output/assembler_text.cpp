@@ -14,6 +14,7 @@ constexpr std::string_view AuthorLine =
 constexpr std::string_view ContactLine =
     "; ###        Please send bug reports to: bugs@tidemark.example              ###";
 static_assert(AuthorLine.size() == BannerWidth && ContactLine.size() == BannerWidth);
+static_assert(AuthorLine.starts_with(AssemblerFileStart));
 
 constexpr int MarginDegrees = 2;
 

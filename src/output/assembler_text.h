@@ -15,6 +15,9 @@ namespace tidemark {
 // A line that looks empty.
 inline constexpr std::string_view BlankLine = " ";
 
+// What both begin with, whatever version has written them.
+inline constexpr std::string_view AssemblerFileStart = "; ###        Made with Tidemark ";
+
 // "Cellv_" and the LOD8 column and row: the label of the project's cell in both files.
 std::string Cell_name(const Project& project);
 

@@ -51,8 +51,14 @@ class Files {
     // and any file of more than `limit` bytes, without waiting and without reading them.
     virtual FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) = 0;
 
-    // Makes `bytes` the file's content, whole or not at all: they are written beside the target,
-    // flushed to the disk and renamed over it. After a failure the old file is as it was.
+    // The same of the file's first bytes, `most` at most, however long it is.
+    virtual FileResult Read_start(const std::string& path, std::uintmax_t most,
+                                  std::string& bytes) = 0;
+
+    // Makes `bytes` the content of the file that the path leads to through links, whole or not at
+    // all, and flushes it to the disk. Its owner, permissions, other names and attributes stay.
+    // After a failure the old file is as it was (platform/replace_file.h). Refuses what is no
+    // regular file, and one that may not be written.
     virtual FileResult Replace(const std::string& path, std::string_view bytes) = 0;
 };
 
@@ -67,6 +73,8 @@ class DiskFiles : public Files {
     std::optional<std::uintmax_t> Size(const std::string& path) override;
     FileResult Delete(const std::string& path) override;
     FileResult Read(const std::string& path, std::uintmax_t limit, std::string& bytes) override;
+    FileResult Read_start(const std::string& path, std::uintmax_t most,
+                          std::string& bytes) override;
     FileResult Replace(const std::string& path, std::string_view bytes) override;
 };
 

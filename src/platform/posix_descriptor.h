@@ -11,6 +11,11 @@ class Descriptor {
     explicit Descriptor(int number) : number_(number) {}  // -1: none
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        Close();
+        number_ = std::exchange(other.number_, -1);
+        return *this;
+    }
     ~Descriptor() { Close(); }
 
     bool Is_open() const { return number_ >= 0; }

@@ -62,6 +62,25 @@ TEST_F(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
     EXPECT_EQ(files_.Content["river-LWM.asm"], LWM_file_bytes(river_));
 }
 
+TEST_F(CompanionTest, OnlyAFileThatBeginsAsOneOfOursIsReplaced) {
+    files_.Content = {{"river.TDM", Project_bytes(river_, "")}};
+    const std::string written = Run({"", {"river.TDM"}}, true);
+    std::string& file = files_.Content["river-VTP.asm"];
+    std::string older = file;
+    older.replace(older.find("V1.1"), 4, "V1.0");
+    for (const std::string& ours : {older, file, std::string()}) {
+        file = ours;
+        EXPECT_EQ(Run({"", {"river.TDM"}}, true), written);
+    }
+    for (const std::string& foreign : {older.substr(1), older.substr(0, 20), std::string("x")}) {
+        file = foreign;
+        EXPECT_EQ(Run({"", {"river.TDM"}}, false),
+                  "river-LWM.asm\nriver.TDM: river-VTP.asm is there and is no assembler file of "
+                  "Tidemark; it is left as it is\n");
+        EXPECT_EQ(file, foreign);
+    }
+}
+
 TEST_F(CompanionTest, NoFileIsWrittenTwice) {
     for (const char* const path : {"a/c.TDM", "b/c.TDM"})
         files_.Content[path] = Project_bytes(river_, "");

@@ -52,6 +52,7 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
     fake.files.Content = {{"/moved/c.tdm", Project_bytes(saved, "then")},
                           {"/maps/bad.tdm", "x saved on y\n1\n70000\n"},
                           {"/maps/huge.tdm", std::string(MaxProjectFileSize + 1, '7')},
+                          {"/maps/none.tdm", "PK\3\4\nno lines of a project"},
                           {"/maps/short.tdm", "x saved on y\n1\n"}};
     Session session;
     Document document(session);
@@ -67,7 +68,8 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
     EXPECT_EQ(open("/moved/c.tdm", true), "");
     EXPECT_EQ(open("/maps/bad.tdm", false),
               "bad.tdm, line 3: AreaTopVTP does not fit -32768..32767: 70000");
-    EXPECT_EQ(open("/maps/huge.tdm", false), "huge.tdm, line 1: File too large");
+    EXPECT_EQ(open("/maps/huge.tdm", false), "huge.tdm: File too large");
+    EXPECT_EQ(open("/maps/none.tdm", false), "none.tdm: this is no Tidemark project");
     EXPECT_TRUE(p == saved) << "the stored path, too";
     EXPECT_EQ(open("/maps/gone.tdm", false), "/maps/gone.tdm not found!");
     EXPECT_EQ(p.ProjectFile, "/maps/gone.tdm");

@@ -65,6 +65,13 @@ class MemoryFiles : public Files {
         return FileResult::Done();
     }
 
+    FileResult Read_start(const std::string& path, std::uintmax_t most,
+                          std::string& bytes) override {
+        if (!Exists(path)) return FileResult::Failed("No such file or directory");
+        bytes = Content[path].substr(0, most);
+        return FileResult::Done();
+    }
+
     FileResult Replace(const std::string& path, std::string_view bytes) override {
         if (!WriteError.empty()) return FileResult::Failed(WriteError);
         Content[path] = bytes;

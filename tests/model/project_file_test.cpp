@@ -58,6 +58,19 @@ TEST_F(ProjectFileTest, WhatIsMissingAtTheEndIsZeroOffAndEmptyAndOnlyTrueWithIts
     }
 }
 
+TEST_F(ProjectFileTest, WhatIsPlainlySomethingElseDoesNotReadAsAProject) {
+    std::string no_date = With_line(1, "");
+    for (const std::string& bytes :
+         {bytes_, no_date, With_line(1, "any\0thing"s), With_line(2, "none"), ""s, "x saved on y"s,
+          "x\n70000\n"s, "\r\n \r\n-.5\r\n"s, With_line(88, "a\0b"s)})
+        EXPECT_TRUE(Reads_as_project(bytes)) << bytes.substr(0, 80);
+    for (const std::string& bytes : {"\x89PNG\r\n\x1A\n\0\0\0\rIHDR"s, "\x7F"s + "ELF\2\1\1\0"s,
+                                     "x saved on y\0\n 1\n"s + "\0"s, Source_file("README.md"),
+                                     Source_file("sample/golden-gate.jpg"), "one line"s, "\n\n"s,
+                                     "{\n  \"a\": 1,\n  \"b\": 2\n}\n"s})
+        EXPECT_FALSE(Reads_as_project(bytes)) << bytes.substr(0, 80);
+}
+
 TEST_F(ProjectFileTest, WhatCannotBeHeldIsRefusedAtItsLineAndTheProjectStays) {
     const auto refused = [this](int line, const std::string& text) {
         Project project = all_values_;

@@ -28,6 +28,18 @@ TEST(FilesTest, FilesAreReplacedFoundMeasuredReadAndRemovedOrItIsSaidWhyNot) {
     EXPECT_TRUE(files.Read(path, 5, bytes));
     EXPECT_EQ(bytes, "12345");
 
+    EXPECT_TRUE(files.Read_start(path, 2, bytes));
+    EXPECT_EQ(bytes, "12");
+
+    namespace fs = std::filesystem;
+    for (const char* const name : {"one name", ".tidemark-left0A"}) Write_file(folder / name, "");
+    fs::create_hard_link(folder / "one name", folder / "another");
+    fs::last_write_time(folder / ".tidemark-left0A",
+                        fs::file_time_type::clock::now() - std::chrono::hours(1));
+    EXPECT_TRUE(files.Replace(folder / "another", "both"));
+    EXPECT_EQ(File_content(folder / "one name"), "both");
+    EXPECT_EQ(folder.Number_of_files(), 3) << "what a killed save has left is removed";
+
     EXPECT_EQ(files.Replace(none, "x").Reason(), "No such file or directory");
     EXPECT_EQ(files.Replace(folder.Path(), "x").Reason(), "Is a directory");
     EXPECT_EQ(files.Replace(std::string("a\0b", 3), "x").Reason(), "Invalid argument");
