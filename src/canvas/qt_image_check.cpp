@@ -136,7 +136,7 @@ qint64 Next_mark(FileBytes& bytes, qint64 position) {
 
 }  // namespace
 
-std::optional<ImageClaim> Check_BMP(QIODevice& file) {
+std::optional<QSize> Check_BMP(QIODevice& file) {
     FileBytes bytes(file);
     constexpr int header_size = 38, core_header = 12, run_lengths_8 = 1, run_lengths_4 = 2;
     if (bytes.Size() < header_size) return std::nullopt;
@@ -156,10 +156,10 @@ std::optional<ImageClaim> Check_BMP(QIODevice& file) {
     const bool is_whole = is_packed ? bytes.Little_long(34) <= room && Can_hold(size, bytes)
                                     : row_size <= room / size.height();
     if (!is_whole) return std::nullopt;
-    return ImageClaim{size, is_packed};
+    return size;
 }
 
-std::optional<ImageClaim> Check_GIF(QIODevice& file) {
+std::optional<QSize> Check_GIF(QIODevice& file) {
     FileBytes bytes(file);
     constexpr int extension = 0x21, picture = 0x2C;
     const int screen_width = bytes.Little_word(6), screen_height = bytes.Little_word(8);
@@ -180,10 +180,10 @@ std::optional<ImageClaim> Check_GIF(QIODevice& file) {
     Pass_colours(flags, position);
     ++position;  // the size of its codes
     if (!GIF_can_hold(size, bytes) || !Pass_sub_blocks(bytes, position)) return std::nullopt;
-    return ImageClaim{size};
+    return size;
 }
 
-std::optional<ImageClaim> Check_JPEG(QIODevice& file) {
+std::optional<QSize> Check_JPEG(QIODevice& file) {
     FileBytes bytes(file);
     constexpr int start_of_scan = 0xDA, end = 0xD9;
     QSize size(0, 0);
@@ -195,8 +195,7 @@ std::optional<ImageClaim> Check_JPEG(QIODevice& file) {
         const bool is_frame = kind >= 0xC0 && kind <= 0xCF && (kind % 4 != 0 || kind == 0xC0);
         if (kind < 0) return std::nullopt;
         if (kind == end)
-            return scans.Any() && Can_hold(size, bytes) ? std::optional(ImageClaim{size})
-                                                        : std::nullopt;
+            return scans.Any() && Can_hold(size, bytes) ? std::optional(size) : std::nullopt;
         if (is_frame) size = {bytes.Big_word(position + 5), bytes.Big_word(position + 3)};
         if (kind == start_of_scan && !scans.Add(size)) return std::nullopt;
         position += bytes.Big_word(position);

@@ -69,14 +69,17 @@ QImage With_palette(const QImage& picture) {
 struct ImageKind {
     const char* Format;  // as Qt names it
     QByteArrayView Signature;
-    std::optional<ImageClaim> (*Check)(QIODevice&);
+    std::optional<QSize> (*Check)(QIODevice&);
+    // A packed file may pass over pixels: they have the first colour, but Qt would leave in them
+    // what the memory held before.
+    bool LeavesGaps;
     bool LosesPalette;  // Qt decodes its palette pictures to 32 bits a pixel
 };
 
 constexpr std::array<ImageKind, 3> ImageKinds{{
-    {"bmp", "BM", Check_BMP, false},
-    {"gif", "GIF8", Check_GIF, true},
-    {"jpeg", "\xFF\xD8\xFF", Check_JPEG, false},
+    {"bmp", "BM", Check_BMP, true, false},
+    {"gif", "GIF8", Check_GIF, false, true},
+    {"jpeg", "\xFF\xD8\xFF", Check_JPEG, false, false},
 }};
 
 // A pixel may name a colour that the file's table does not hold, which Qt would look up behind the
@@ -102,18 +105,18 @@ QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
     const auto kind = std::ranges::find_if(
         ImageKinds, [&](const ImageKind& k) { return begin.startsWith(k.Signature); });
     if (kind == ImageKinds.end()) return {};
-    const auto claim = kind->Check(file);
-    if (!claim || claim->Size.isEmpty() || !fits(claim->Size) || !file.seek(0)) return {};
+    const auto claimed = kind->Check(file);
+    if (!claimed || claimed->isEmpty() || !fits(*claimed) || !file.seek(0)) return {};
 
     QImageReader reader(&file, kind->Format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(false);
     const auto restore_limit = qScopeGuard(
         [limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
-    QImageReader::setAllocationLimit(Size_in_memory(claim->Size));
+    QImageReader::setAllocationLimit(Size_in_memory(*claimed));
     QImage image;
-    if (claim->MayHaveGaps) {
-        image = QImage(claim->Size, reader.imageFormat());
+    if (kind->LeavesGaps) {
+        image = QImage(*claimed, reader.imageFormat());
         image.fill(0);
     }
     if (!reader.read(&image) || !fits(image.size())) return {};
