@@ -29,6 +29,7 @@ class Preferences : public QDialog {
                            QCheckBox* compile);
     QWidget* Filenames_frame();
     void Connect_controls();
+    void Make_room();
 
     OutputPreferences Entered() const;
     void RootText_Change();
@@ -40,7 +41,7 @@ class Preferences : public QDialog {
     Platform& platform_;
     FileChooser BrowseDialog_ = BrowseDialog();
     FileChooser FSBrowseDialog_ = FSBrowseDialog();
-    std::array<QCheckBox*, 4> checks_;  // Check1..Check4
+    std::array<QCheckBox*, 4> checks_;  // Check1..Check4: Notepad and compiler, for LWM and VTP
     QLineEdit* RootText_;
     QPushButton* BrowseButton_;
     QLabel *LWMlabel_, *VTPlabel_;

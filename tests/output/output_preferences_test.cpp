@@ -24,15 +24,15 @@ TEST(OutputNamesTest, AreMadeOfTheRootAndOfTheAssemblerFile) {
 TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
     using Preferences = OutputPreferences;
     for (bool Preferences::*flag :
-         {&Preferences::FScopy, &Preferences::Check1, &Preferences::Check2, &Preferences::Check3,
-          &Preferences::Check4}) {
+         {&Preferences::FScopy, &Preferences::LWMNotepad, &Preferences::LWMCompile,
+          &Preferences::VTPNotepad, &Preferences::VTPCompile}) {
         Project project;
         Preferences preferences{.RootText = "/out/Skye.asm", .FSname = "/fs"};
         preferences.*flag = true;
         Store_preferences(preferences, project);
         EXPECT_EQ(project.LWMFileName + project.VTPFileName, "/out/Skye-LWM.asm/out/Skye-VTP.asm");
-        EXPECT_EQ(project.LWMNotepad, flag == &Preferences::Check1);
-        EXPECT_EQ(project.VTPCompile, flag == &Preferences::Check4);
+        EXPECT_EQ(project.LWMNotepad, flag == &Preferences::LWMNotepad);
+        EXPECT_EQ(project.VTPCompile, flag == &Preferences::VTPCompile);
         EXPECT_TRUE(project.PrefsSet && project.DataChanged);
         EXPECT_EQ(Shown_preferences(project), preferences);
     }
