@@ -1,6 +1,7 @@
 #include "output/preferences_window.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QVBoxLayout>
@@ -127,13 +128,14 @@ void Preferences::RootText_Change() {
     const std::string root = From_qt(RootText_->text());
     LWMlabel_->setText(To_qt(Output_label(LWMOutput, root)));
     VTPlabel_->setText(To_qt(Output_label(VTPOutput, root)));
-    if (isVisible()) Make_room();
 }
 
-// Both names are read whole, however long they become.
-void Preferences::Make_room() {
-    layout()->activate();
-    resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
+// The dialog grows with the two names, so that they are read whole.
+bool Preferences::event(QEvent* event) {
+    const bool is_handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
+    return is_handled;
 }
 
 void Preferences::BrowseButton_Click() {

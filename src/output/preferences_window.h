@@ -23,13 +23,15 @@ class Preferences : public QDialog {
     // closed in any other way.
     std::optional<OutputPreferences> Ask(const OutputPreferences& preferences);
 
+  protected:
+    bool event(QEvent* event) override;
+
   private:
     void Lay_out();
     QWidget* Options_frame(const char* name, const char* caption, QCheckBox* notepad,
                            QCheckBox* compile);
     QWidget* Filenames_frame();
     void Connect_controls();
-    void Make_room();
 
     OutputPreferences Entered() const;
     void RootText_Change();

@@ -42,16 +42,14 @@ class MessageBox : public QMessageBox {
 
   private:
     void Unbreak_lines() {
-        constexpr int frame = 32;
+        constexpr int around = 160;  // pixels for the icon, the margins and the frame
         auto* const label = findChild<QLabel*>("qt_msgbox_label");
         if (!label || !label->wordWrap()) return;
+        const int widest = label->fontMetrics().size(0, label->text()).width();
+        if (widest + around > screen()->availableSize().width()) return;
         label->setWordWrap(false);
         layout()->activate();
-        const QSize whole = layout()->totalSizeHint();
-        if (whole.width() + frame <= screen()->availableSize().width())
-            setFixedSize(whole);
-        else
-            label->setWordWrap(true);
+        setFixedSize(layout()->totalSizeHint());
         QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);  // else it begins anew
     }
 };
