@@ -18,7 +18,6 @@
 #include "model/path_text.h"
 #include "output/assembler_files.h"
 #include "output/preferences_window.h"
-#include "platform/qt_patience.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -78,7 +77,15 @@ const std::vector<TidemarkMain::Menu>& TidemarkMain::Menus() {
 TidemarkMain::TidemarkMain()
     : messages_(*this),
       choosers_(*this),
-      platform_{messages_, choosers_, files_, clock_, programs_, Path_from_qt(QDir::currentPath())},
+      patience_(*statusBar()),
+      programs_(patience_),
+      platform_{messages_,
+                choosers_,
+                files_,
+                clock_,
+                programs_,
+                patience_,
+                Path_from_qt(QDir::currentPath())},
       map_(new MapView(this)),
       status_(new Status(document_, session_, messages_, this)),
       tool_bar_(new ToolBar(this)) {
@@ -210,10 +217,8 @@ void TidemarkMain::VTPsave_Click() {
 }
 
 void TidemarkMain::Run_after_save(const AfterSaveTask& task) {
-    setAcceptDrops(false);  // a drop comes through even while all other input waits
-    const auto accept_again = qScopeGuard([this] { setAcceptDrops(true); });
-    QtPatience patience(*statusBar());
-    After_save(task, messages_, files_, programs_, patience);
+    const auto over = qScopeGuard([this] { patience_.Over(""); });  // after an error, too
+    After_save(task, platform_);
 }
 
 void TidemarkMain::OutputPreferences_Click() {
@@ -242,7 +247,7 @@ void TidemarkMain::Tutorial_Click() {
 void TidemarkMain::Show_help_document(const HelpDocument& document) {
     const HelpPlaces places{Path_from_qt(QDir::currentPath()),
                             Path_from_qt(QCoreApplication::applicationDirPath())};
-    Show_help(document, places, messages_, files_, programs_);
+    Show_help(document, places, platform_);
     Refresh_Graphics();
 }
 

@@ -18,6 +18,7 @@
 #include "platform/platform.h"
 #include "platform/qt_choosers.h"
 #include "platform/qt_messages.h"
+#include "platform/qt_patience.h"
 #include "vtp_edit/edit_point_window.h"
 
 namespace tidemark {
@@ -103,6 +104,7 @@ class TidemarkMain : public QMainWindow {
     QtChoosers choosers_;
     DiskFiles files_;
     SystemClock clock_;
+    QtPatience patience_;
     SystemPrograms programs_;
     Platform platform_;
     ChangingEntries entries_{};

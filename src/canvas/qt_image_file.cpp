@@ -2,152 +2,74 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <vector>
 
-#include <QHash>
 #include <QImageReader>
 #include <QScopeGuard>
-#include <QtEndian>
+
+#include "canvas/qt_image_check.h"
 
 namespace tidemark {
 
 namespace {
 
-// A file that ends early is refused, which Qt's readers do not do: they would leave the rest of the
-// picture grey, or whatever the memory held before.
+// The colours of a picture, numbered as they come. They are looked up for every pixel, so they lie
+// in a table where each is at or soon after the place that its bits say.
+class ColourNumbers {
+  public:
+    static constexpr int Most = 256;
 
-QByteArray Bytes_at(QIODevice& file, qint64 position, qint64 count) {
-    return position < file.size() && file.seek(position) ? file.read(count) : QByteArray();
-}
-
-bool Is_whole_BMP(QIODevice& file) {
-    const QByteArray header = Bytes_at(file, 0, 38);
-    if (header.size() < 38) return false;
-    const auto long_at = [&](int at) {
-        return qint64{qFromLittleEndian<qint32>(&header.data()[at])};
-    };
-    const auto word_at = [&](int at) {
-        return qint64{qFromLittleEndian<quint16>(&header.data()[at])};
-    };
-    constexpr qint64 core_header = 12;
-    constexpr qint64 run_lengths_8 = 1, run_lengths_4 = 2;
-
-    const bool is_core = long_at(14) == core_header;
-    const qint64 width = is_core ? word_at(18) : long_at(18);
-    const qint64 height = qAbs(is_core ? word_at(20) : long_at(22));
-    const qint64 bits = is_core ? word_at(24) : word_at(28);
-    const qint64 compression = is_core ? 0 : long_at(30);
-    const bool is_packed = compression == run_lengths_8 || compression == run_lengths_4;
-    const qint64 row_size = (width * bits + 31) / 32 * 4;
-    const qint64 room = file.size() - long_at(10);
-    if (is_packed) return long_at(34) <= room;
-    return height == 0 || row_size <= room / height;
-}
-
-// Skips a GIF's sub-blocks up to and with the empty one that ends them.
-bool Skip_sub_blocks(QIODevice& file) {
-    for (char length = 0; file.getChar(&length);) {
-        if (length == 0) return true;
-        const auto count = static_cast<quint8>(length);
-        if (file.skip(count) != count) return false;
-    }
-    return false;
-}
-
-// Skips a GIF's colour table, if its flags announce one.
-bool Skip_colours(QIODevice& file, char flags) {
-    constexpr int announced = 0x80;
-    if (!(flags & announced)) return true;
-    const int size = 3 << ((flags & 7) + 1);
-    return file.skip(size) == size;
-}
-
-// Of a picture that begins beside its screen Qt would show what the memory held before.
-bool Begins_on_screen(const QByteArray& description, const QByteArray& screen) {
-    const auto word = [](const QByteArray& bytes, int at) {
-        return qFromLittleEndian<quint16>(&bytes.data()[at]);
-    };
-    const auto begins_within = [&](int start, int size) {
-        return word(screen, size) == 0 || word(description, start) < word(screen, size);
-    };
-    return begins_within(0, 6) && begins_within(2, 8);
-}
-
-// Whether the first picture is all there; what follows it is not used.
-bool Is_whole_GIF(QIODevice& file) {
-    constexpr char extension = 0x21, picture = 0x2C;
-    const QByteArray screen = Bytes_at(file, 0, 13);
-    if (screen.size() < 13 || !Skip_colours(file, screen[10])) return false;
-    char kind = 0;
-    while (file.getChar(&kind) && kind == extension)
-        if (file.skip(1) != 1 || !Skip_sub_blocks(file)) return false;
-    if (kind != picture) return false;
-    const QByteArray description = file.read(9);
-    return description.size() == 9 && Begins_on_screen(description, screen) &&
-           Skip_colours(file, description[8]) && file.skip(1) == 1 && Skip_sub_blocks(file);
-}
-
-// Where the pixels of a JPEG begin; nothing that comes before, such as a preview, counts. -1 when
-// the file has none.
-qint64 JPEG_scan(QIODevice& file) {
-    constexpr quint8 marker = 0xFF, start_of_scan = 0xDA;
-    for (qint64 position = 2;;) {
-        const QByteArray segment = Bytes_at(file, position, 4);
-        if (segment.size() < 4 || static_cast<quint8>(segment[0]) != marker) return -1;
-        if (static_cast<quint8>(segment[1]) == marker) {  // a fill byte
-            ++position;
-            continue;
+    // -1 when there are too many colours.
+    int Number(QRgb colour) {
+        constexpr quint32 spread = 0x9E3779B1;
+        quint32 at = colour * spread >> (32 - TableBits);
+        while (table_[at].Number >= 0 && table_[at].Colour != colour) at = (at + 1) % TableSize;
+        if (table_[at].Number < 0 && colours_.size() < Most) {
+            table_[at] = {colour, static_cast<int>(colours_.size())};
+            colours_.append(colour);
         }
-        if (static_cast<quint8>(segment[1]) == start_of_scan) return position;
-        position += 2 + qFromBigEndian<quint16>(&segment.data()[2]);
+        return table_[at].Number;
     }
-}
 
-// Whether the end mark is there. It is looked for from the end, since that is where it is.
-bool Is_whole_JPEG(QIODevice& file) {
-    static const QByteArray end_mark("\xFF\xD9");
-    constexpr qint64 step = 1 << 16;
-    const qint64 scan = JPEG_scan(file);
-    if (scan < 0) return false;
-    for (qint64 end = file.size(); end > scan; end -= step) {
-        const qint64 begin = std::max(scan, end - step);
-        if (Bytes_at(file, begin, end - begin + 1).contains(end_mark)) return true;
-    }
-    return false;
-}
+    const QList<QRgb>& Colours() const { return colours_; }
+
+  private:
+    struct Entry {
+        QRgb Colour = 0;
+        int Number = -1;
+    };
+    static constexpr int TableBits = 12;
+    static constexpr quint32 TableSize = 1 << TableBits;
+
+    std::vector<Entry> table_ = std::vector<Entry>(TableSize);
+    QList<QRgb> colours_;
+};
 
 // A 32-bit picture at one byte a pixel, which holds the same as long as it has no more than 256
 // colours; otherwise the picture itself.
 QImage With_palette(const QImage& picture) {
-    constexpr qsizetype most_colours = 256;
     QImage with_palette(picture.size(), QImage::Format_Indexed8);
     if (with_palette.isNull()) return picture;
     const QRgb opaque = picture.hasAlphaChannel() ? 0 : qRgb(0, 0, 0);
-    QList<QRgb> colours;
-    QHash<QRgb, uchar> numbers;
-    auto number = numbers.cend();  // of the pixel before, whose colour most pixels share
+    ColourNumbers numbers;
     for (int y = 0; y < picture.height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
         uchar* const to = with_palette.scanLine(y);
         for (int x = 0; x < picture.width(); ++x) {
-            const QRgb colour = from[x] | opaque;
-            if (number == numbers.cend() || number.key() != colour)
-                number = numbers.constFind(colour);
-            if (number == numbers.cend()) {
-                if (colours.size() == most_colours) return picture;
-                number = numbers.insert(colour, static_cast<uchar>(colours.size()));
-                colours.append(colour);
-            }
-            to[x] = *number;
+            const int number = numbers.Number(from[x] | opaque);
+            if (number < 0) return picture;
+            to[x] = static_cast<uchar>(number);
         }
     }
-    with_palette.setColorTable(colours);
+    with_palette.setColorTable(numbers.Colours());
     return with_palette;
 }
 
 struct ImageKind {
     const char* Format;  // as Qt names it
     QByteArrayView Signature;
-    bool (*Is_whole)(QIODevice&);
+    std::optional<QSize> (*Check)(QIODevice&);
     // A packed file may pass over pixels: they have the first colour, but Qt would leave in them
     // what the memory held before.
     bool LeavesGaps;
@@ -155,9 +77,9 @@ struct ImageKind {
 };
 
 constexpr std::array<ImageKind, 3> ImageKinds{{
-    {"bmp", "BM", Is_whole_BMP, true, false},
-    {"gif", "GIF8", Is_whole_GIF, false, true},
-    {"jpeg", "\xFF\xD8\xFF", Is_whole_JPEG, false, false},
+    {"bmp", "BM", Check_BMP, true, false},
+    {"gif", "GIF8", Check_GIF, false, true},
+    {"jpeg", "\xFF\xD8\xFF", Check_JPEG, false, false},
 }};
 
 // A pixel may name a colour that the file's table does not hold, which Qt would look up behind the
@@ -179,22 +101,22 @@ int Size_in_memory(QSize size) {
 }  // namespace
 
 QImage Read_map_image(QIODevice& file, const std::function<bool(QSize)>& fits) {
-    const QByteArray begin = Bytes_at(file, 0, 4);
+    const QByteArray begin = file.seek(0) ? file.read(4) : QByteArray();
     const auto kind = std::ranges::find_if(
         ImageKinds, [&](const ImageKind& k) { return begin.startsWith(k.Signature); });
-    if (kind == ImageKinds.end() || !kind->Is_whole(file) || !file.seek(0)) return {};
+    if (kind == ImageKinds.end()) return {};
+    const auto claimed = kind->Check(file);
+    if (!claimed || claimed->isEmpty() || !fits(*claimed) || !file.seek(0)) return {};
 
     QImageReader reader(&file, kind->Format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(false);
-    const QSize claimed = reader.size();
-    if (claimed.isEmpty() || !fits(claimed)) return {};
     const auto restore_limit = qScopeGuard(
         [limit = QImageReader::allocationLimit()] { QImageReader::setAllocationLimit(limit); });
-    QImageReader::setAllocationLimit(Size_in_memory(claimed));
+    QImageReader::setAllocationLimit(Size_in_memory(*claimed));
     QImage image;
     if (kind->LeavesGaps) {
-        image = QImage(claimed, reader.imageFormat());
+        image = QImage(*claimed, reader.imageFormat());
         image.fill(0);
     }
     if (!reader.read(&image) || !fits(image.size())) return {};

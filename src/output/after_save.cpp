@@ -22,13 +22,12 @@ constexpr std::uintmax_t LargestCompiledFile = std::uintmax_t{1} << 30;  // byte
 
 class AfterSave {
   public:
-    AfterSave(const AfterSaveTask& task, Messages& messages, Files& files, Programs& programs,
-              Patience& patience)
+    AfterSave(const AfterSaveTask& task, Platform& platform)
         : task_(task),
-          messages_(messages),
-          files_(files),
-          programs_(programs),
-          patience_(patience) {}
+          messages_(platform.messages),
+          files_(platform.files),
+          programs_(platform.programs),
+          patience_(platform.patience) {}
 
     void Run() {
         if (task_.Notepad && !programs_.Show_text(files_.Full_path(task_.File)))
@@ -71,10 +70,13 @@ class AfterSave {
     }
 
     void Copy_when_complete() {
-        const std::string name = Last_part(BGL_name(task_.File));
         const auto compiled = Await_compiled_file(task_.File, compiler_.get(), files_, patience_);
-        if (!compiled) return Warn(messages_, name + " not found!");
-        if (!Copy(*compiled, name)) return Warn(messages_, CompilerProblem);
+        if (!compiled.Path) {
+            if (!compiled.Problem.empty()) Warn(messages_, compiled.Problem);
+            return;
+        }
+        const std::string name = Last_part(BGL_name(task_.File));
+        if (!Copy(*compiled.Path, name)) return Warn(messages_, CompilerProblem);
         Inform(messages_, "Tidemark - File OK", name + " successfully copied to " + task_.FSFolder);
     }
 
@@ -100,18 +102,23 @@ class AfterSave {
 }  // namespace
 
 AfterSaveTask LWM_after_save(const Project& project) {
-    return {project.LWMFileName, project.LWMNotepad, project.LWMCompile, project.CopyToFS,
-            project.FSFolder};
+    return {.File = project.LWMFileName,
+            .Notepad = project.LWMNotepad,
+            .Compile = project.LWMCompile,
+            .CopyToFS = project.CopyToFS,
+            .FSFolder = project.FSFolder};
 }
 
 AfterSaveTask VTP_after_save(const Project& project) {
-    return {project.VTPFileName, project.VTPNotepad, project.VTPCompile, project.CopyToFS,
-            project.FSFolder};
+    return {.File = project.VTPFileName,
+            .Notepad = project.VTPNotepad,
+            .Compile = project.VTPCompile,
+            .CopyToFS = project.CopyToFS,
+            .FSFolder = project.FSFolder};
 }
 
-void After_save(const AfterSaveTask& task, Messages& messages, Files& files, Programs& programs,
-                Patience& patience) {
-    AfterSave(task, messages, files, programs, patience).Run();
+void After_save(const AfterSaveTask& task, Platform& platform) {
+    AfterSave(task, platform).Run();
 }
 
 }  // namespace tidemark

@@ -5,10 +5,7 @@
 #include <string>
 
 #include "model/project.h"
-#include "platform/files.h"
-#include "platform/messages.h"
-#include "platform/patience.h"
-#include "platform/programs.h"
+#include "platform/platform.h"
 
 namespace tidemark {
 
@@ -26,12 +23,14 @@ AfterSaveTask VTP_after_save(const Project& project);
 // Runs the task in its order and ends at the first failure, which it tells with Warn. Programs are
 // started without waiting for them; only a copy waits for the compiled file, in bounded time:
 //
+// - the compiler has failed: nothing is copied, and its status is told with Warn;
 // - the compiler has ended: the file is copied, or given up when it is not there shortly after;
 // - the compiler goes on and the file rests: it is copied after a quarter of a minute;
-// - the compiler goes on and there is no file: it is given up after a minute.
+// - the compiler goes on and there is no file, or it grows and grows: it is given up after a
+// minute;
+// - the user cancels: nothing is copied, and only the status bar says so.
 //
 // The compiler and the compiled file are found whatever the case of their names.
-void After_save(const AfterSaveTask& task, Messages& messages, Files& files, Programs& programs,
-                Patience& patience);
+void After_save(const AfterSaveTask& task, Platform& platform);
 
 }  // namespace tidemark

@@ -15,11 +15,15 @@ namespace tidemark {
 // the compiler's own system they are one file.
 std::optional<std::string> Find_compiled_file(const std::string& assembler_file, Files& files);
 
+struct CompiledFile {
+    std::optional<std::string> Path;  // when it is complete
+    std::string Problem;              // otherwise what the user is told; empty: nothing
+};
+
 // Waits until the compiled file is complete, and gives up when nothing more is to be expected (see
-// after_save.h for how long that takes). `compiler` is the compiler that was started, null when
-// none was: then what is there is complete.
-std::optional<std::string> Await_compiled_file(const std::string& assembler_file,
-                                               RunningProgram* compiler, Files& files,
-                                               Patience& patience);
+// after_save.h for how long that takes) or the user cancels. `compiler` is the compiler that was
+// started, null when none was: then what is there is complete.
+CompiledFile Await_compiled_file(const std::string& assembler_file, RunningProgram* compiler,
+                                 Files& files, Patience& patience);
 
 }  // namespace tidemark

@@ -52,10 +52,10 @@ std::string File_address(std::string_view path) {
     return address;
 }
 
-void Show_help(const HelpDocument& document, const HelpPlaces& places, Messages& messages,
-               Files& files, Programs& programs) {
-    if (!programs.Show_document(File_address(Find_help(document, places, files))))
-        Warn(messages, document.Warning);
+void Show_help(const HelpDocument& document, const HelpPlaces& places, Platform& platform) {
+    const std::string path = Find_help(document, places, platform.files);
+    if (!platform.programs.Show_document(File_address(path)))
+        Warn(platform.messages, document.Warning);
 }
 
 void Show_about(Messages& messages) {

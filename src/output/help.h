@@ -4,9 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/files.h"
-#include "platform/messages.h"
-#include "platform/programs.h"
+#include "platform/platform.h"
 
 namespace tidemark {
 
@@ -43,8 +41,7 @@ std::string Find_help(const HelpDocument& document, const HelpPlaces& places, Fi
 std::string File_address(std::string_view path);
 
 // Shows the document in the web browser; warns when none can be started.
-void Show_help(const HelpDocument& document, const HelpPlaces& places, Messages& messages,
-               Files& files, Programs& programs);
+void Show_help(const HelpDocument& document, const HelpPlaces& places, Platform& platform);
 
 // The About box.
 void Show_about(Messages& messages);

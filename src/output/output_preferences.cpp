@@ -25,8 +25,13 @@ std::optional<std::string> Browse(FileChooser& dialog, Platform& platform) {
 }  // namespace
 
 OutputPreferences Shown_preferences(const Project& project) {
-    return {project.OutputRoot, project.FSFolder,   project.CopyToFS,  project.LWMNotepad,
-            project.LWMCompile, project.VTPNotepad, project.VTPCompile};
+    return {.RootText = project.OutputRoot,
+            .FSname = project.FSFolder,
+            .FScopy = project.CopyToFS,
+            .LWMNotepad = project.LWMNotepad,
+            .LWMCompile = project.LWMCompile,
+            .VTPNotepad = project.VTPNotepad,
+            .VTPCompile = project.VTPCompile};
 }
 
 bool Check_preferences(const OutputPreferences& preferences, Messages& messages) {
@@ -39,10 +44,10 @@ bool Check_preferences(const OutputPreferences& preferences, Messages& messages)
 }
 
 void Store_preferences(const OutputPreferences& preferences, Project& project) {
-    project.LWMNotepad = preferences.Check1;
-    project.LWMCompile = preferences.Check2;
-    project.VTPNotepad = preferences.Check3;
-    project.VTPCompile = preferences.Check4;
+    project.LWMNotepad = preferences.LWMNotepad;
+    project.LWMCompile = preferences.LWMCompile;
+    project.VTPNotepad = preferences.VTPNotepad;
+    project.VTPCompile = preferences.VTPCompile;
     project.OutputRoot = preferences.RootText;
     project.LWMFileName = Output_name(LWMOutput, preferences.RootText).value();
     project.VTPFileName = Output_name(VTPOutput, preferences.RootText).value();

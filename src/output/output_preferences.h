@@ -9,15 +9,14 @@
 
 namespace tidemark {
 
-// What the dialog's controls hold, each under its control's name.
+// What the dialog's controls hold.
 struct OutputPreferences {
     std::string RootText;  // the filename root
     std::string FSname;    // the folder that compiled files are copied to
     bool FScopy = false;   // copy them; only then FSname and its Browse button are enabled
-    bool Check1 = false;   // LWM: open in the editor after saving
-    bool Check2 = false;   // LWM: compile after saving
-    bool Check3 = false;   // VTP: open
-    bool Check4 = false;   // VTP: compile
+    // After saving one of the files, open it in the editor and compile it.
+    bool LWMNotepad = false, LWMCompile = false;
+    bool VTPNotepad = false, VTPCompile = false;
 
     bool operator==(const OutputPreferences&) const = default;
 };

@@ -1,6 +1,7 @@
 #include "output/preferences_window.h"
 
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QVBoxLayout>
@@ -101,10 +102,10 @@ void Preferences::Connect_controls() {
 }
 
 std::optional<OutputPreferences> Preferences::Ask(const OutputPreferences& preferences) {
-    checks_[0]->setChecked(preferences.Check1);
-    checks_[1]->setChecked(preferences.Check2);
-    checks_[2]->setChecked(preferences.Check3);
-    checks_[3]->setChecked(preferences.Check4);
+    checks_[0]->setChecked(preferences.LWMNotepad);
+    checks_[1]->setChecked(preferences.LWMCompile);
+    checks_[2]->setChecked(preferences.VTPNotepad);
+    checks_[3]->setChecked(preferences.VTPCompile);
     RootText_->setText(To_qt(preferences.RootText));
     FScopy_->setChecked(preferences.FScopy);
     FSname_->setText(To_qt(preferences.FSname));
@@ -117,16 +118,24 @@ OutputPreferences Preferences::Entered() const {
     return {.RootText = From_qt(RootText_->text()),
             .FSname = From_qt(FSname_->text()),
             .FScopy = FScopy_->isChecked(),
-            .Check1 = checks_[0]->isChecked(),
-            .Check2 = checks_[1]->isChecked(),
-            .Check3 = checks_[2]->isChecked(),
-            .Check4 = checks_[3]->isChecked()};
+            .LWMNotepad = checks_[0]->isChecked(),
+            .LWMCompile = checks_[1]->isChecked(),
+            .VTPNotepad = checks_[2]->isChecked(),
+            .VTPCompile = checks_[3]->isChecked()};
 }
 
 void Preferences::RootText_Change() {
     const std::string root = From_qt(RootText_->text());
     LWMlabel_->setText(To_qt(Output_label(LWMOutput, root)));
     VTPlabel_->setText(To_qt(Output_label(VTPOutput, root)));
+}
+
+// The dialog grows with the two names, so that they are read whole.
+bool Preferences::event(QEvent* event) {
+    const bool is_handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        resize(width(), qMax(height(), layout()->totalHeightForWidth(width())));
+    return is_handled;
 }
 
 void Preferences::BrowseButton_Click() {

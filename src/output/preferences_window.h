@@ -23,6 +23,9 @@ class Preferences : public QDialog {
     // closed in any other way.
     std::optional<OutputPreferences> Ask(const OutputPreferences& preferences);
 
+  protected:
+    bool event(QEvent* event) override;
+
   private:
     void Lay_out();
     QWidget* Options_frame(const char* name, const char* caption, QCheckBox* notepad,
@@ -40,7 +43,7 @@ class Preferences : public QDialog {
     Platform& platform_;
     FileChooser BrowseDialog_ = BrowseDialog();
     FileChooser FSBrowseDialog_ = FSBrowseDialog();
-    std::array<QCheckBox*, 4> checks_;  // Check1..Check4
+    std::array<QCheckBox*, 4> checks_;  // Check1..Check4: Notepad and compiler, for LWM and VTP
     QLineEdit* RootText_;
     QPushButton* BrowseButton_;
     QLabel *LWMlabel_, *VTPlabel_;

@@ -7,6 +7,7 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/messages.h"
+#include "platform/patience.h"
 #include "platform/programs.h"
 
 namespace tidemark {
@@ -17,6 +18,7 @@ struct Platform {
     Files& files;
     Clock& clock;
     Programs& programs;
+    Patience& patience;
     std::string StartFolder;  // the folder that was current at start-up: where choosers begin
 };
 

@@ -1,15 +1,14 @@
-// Programs by way of POSIX calls, and of Linux's descriptors for processes.
+// Programs by way of POSIX calls.
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
-#include <fstream>
 #include <optional>
-#include <poll.h>
 #include <sstream>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "platform/posix_descriptor.h"
@@ -19,26 +18,32 @@ namespace tidemark {
 
 namespace {
 
+// A child of ours. A thread of its own waits for its end, so that it never stays behind as a
+// zombie, whether or not anybody asks; it outlives us like any program.
 class RunningProcess : public RunningProgram {
   public:
-    explicit RunningProcess(pid_t process)
-        : process_(static_cast<int>(::syscall(SYS_pidfd_open, process, 0))) {}
+    explicit RunningProcess(pid_t process) {
+        std::thread([process, status = status_] { *status = Status_at_end(process); }).detach();
+    }
 
-    // A process that could not be opened any more is gone.
-    bool Has_ended() override {
-        pollfd ended{process_.Number(), POLLIN, 0};
-        return !process_.Is_open() || ::poll(&ended, 1, 0) > 0;
+    std::optional<ProgramEnd> End() override {
+        const int status = *status_;
+        if (status == StillRuns) return std::nullopt;
+        if (WIFSIGNALED(status)) return ProgramEnd{.Signal = WTERMSIG(status)};
+        return ProgramEnd{.Status = static_cast<std::uint32_t>(WEXITSTATUS(status))};
     }
 
   private:
-    Descriptor process_;
-};
+    static constexpr int StillRuns = -1;
 
-// What the started process tells its starter: its number, and after it the reason when it could not
-// become the program. Nothing when there is no such process.
-struct Report {
-    pid_t Process = 0;
-    int Error = 0;
+    static int Status_at_end(pid_t process) {
+        int status = SIGKILL;  // as long as nobody knows better
+        while (::waitpid(process, &status, 0) < 0 && errno == EINTR) {
+        }
+        return status;
+    }
+
+    std::shared_ptr<std::atomic<int>> status_ = std::make_shared<std::atomic<int>>(StillRuns);
 };
 
 // Everything that the new process needs, made before it exists: between fork and exec nothing may
@@ -53,23 +58,11 @@ class Launch {
         arguments_.push_back(nullptr);
     }
 
-    // Starts the program from a process in between that ends at once: the program is then nobody's
-    // child that would have to be waited for.
-    [[noreturn]] void Run_in_between(int report) const {
-        ::setsid();  // what is typed into our terminal is not meant for the program
-        const pid_t process = ::fork();
-        if (process == 0) Become_program(report);
-        ::_exit(process < 0 ? 127 : 0);
-    }
-
-  private:
-    static void Tell(int report, int value) {
-        [[maybe_unused]] const ssize_t written = ::write(report, &value, sizeof value);
-    }
-
-    // The program gets the signals, the input and the descriptors that any new program has.
+    // In the new process. The program gets the signals, the input and the descriptors that any new
+    // program has; what is typed into our terminal is not meant for it. When it cannot become the
+    // program, the process says why and ends.
     [[noreturn]] void Become_program(int report) const {
-        Tell(report, ::getpid());
+        ::setsid();
         for (const int number : {SIGPIPE, SIGXFSZ}) ::signal(number, SIG_DFL);
         sigset_t none;
         ::sigemptyset(&none);
@@ -78,26 +71,24 @@ class Launch {
             ::dup2(nothing, STDIN_FILENO);
         ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
         if (*folder_ == '\0' || ::chdir(folder_) == 0) ::execv(executable_, arguments_.data());
-        Tell(report, errno);
+        const int error = errno;
+        [[maybe_unused]] const ssize_t written = ::write(report, &error, sizeof error);
         ::_exit(127);
     }
 
+  private:
     const char* executable_;
     const char* folder_;
     std::vector<char*> arguments_;
 };
 
-// The report ends when the process becomes the program, which closes its end of the pipe.
-Report Read_report(const Descriptor& from) {
-    Report report;
-    for (int* const part : {&report.Process, &report.Error}) {
-        ssize_t got = 0;
-        do {
-            got = ::read(from.Number(), part, sizeof *part);
-        } while (got < 0 && errno == EINTR);
-        if (got != sizeof *part) break;
-    }
-    return report;
+// Whether the process became the program, which closes its end of the pipe.
+bool Has_become_program(const Descriptor& report) {
+    int error = 0;
+    ssize_t got = 0;
+    do got = ::read(report.Number(), &error, sizeof error);
+    while (got < 0 && errno == EINTR);
+    return got == 0;
 }
 
 std::optional<std::string> Find_executable(const std::string& name) {
@@ -122,21 +113,32 @@ std::unique_ptr<RunningProgram> Spawn(const Command& command) {
     Descriptor writing(ends[1]);
 
     const Launch launch(*executable, command);
-    const pid_t in_between = ::fork();
-    if (in_between == 0) launch.Run_in_between(writing.Number());
+    const pid_t process = ::fork();
+    if (process == 0) launch.Become_program(writing.Number());
     writing.Close();
-    if (in_between < 0) return nullptr;
-    const Report report = Read_report(reading);
-    while (::waitpid(in_between, nullptr, 0) < 0 && errno == EINTR) {
-    }
-    if (report.Process == 0 || report.Error != 0) return nullptr;
-    return std::make_unique<RunningProcess>(report.Process);
+    if (process < 0) return nullptr;
+    auto program = std::make_unique<RunningProcess>(process);
+    if (!Has_become_program(reading)) return nullptr;
+    return program;
 }
 
+// A failure that shows within a second.
+std::optional<ProgramEnd> Failure_at_once(RunningProgram& program, Patience& patience) {
+    constexpr int second = 1000, look = 20;  // milliseconds
+    for (int waited = 0; waited < second && !program.End(); waited += look)
+        patience.Wait_a_moment(look);
+    const auto end = program.End();
+    return end && !end->Is_success() ? end : std::nullopt;
+}
+
+// Of a regular file only: to open a pipe would take until somebody writes into it.
 bool Is_windows_program(const std::string& path) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status {};
     char mark[2] = {};
-    std::ifstream(path, std::ios::binary).read(mark, sizeof mark);
-    return mark[0] == 'M' && mark[1] == 'Z';
+    return file.Is_open() && ::fstat(file.Number(), &status) == 0 && S_ISREG(status.st_mode) &&
+           ::read(file.Number(), mark, sizeof mark) == sizeof mark && mark[0] == 'M' &&
+           mark[1] == 'Z';
 }
 
 // Wine shows the whole file system as its drive Z; a path that began with "/" would look like an
@@ -158,15 +160,22 @@ Command Through_wine(const Command& command) {
 
 }  // namespace
 
+// A child's end could not be learnt where whoever started us had that signal ignored.
+SystemPrograms::SystemPrograms(Patience& patience) : patience_(patience) {
+    ::signal(SIGCHLD, SIG_DFL);
+}
+
 ProgramStart SystemPrograms::Start(const Command& command) {
-    const bool for_windows = Is_windows_program(command.Program);
-    if (for_windows)
-        if (auto program = Spawn(Through_wine(command))) return {std::move(program), ""};
+    if (!Is_windows_program(command.Program)) return {Spawn(command), ""};
+    const std::string advice =
+        command.Program + " is a Windows program, which this system runs through wine.\n";
+    if (auto wine = Spawn(Through_wine(command))) {
+        const auto failure = Failure_at_once(*wine, patience_);
+        if (failure) return {nullptr, advice + "It " + failure->Text() + "."};
+        return {std::move(wine), ""};
+    }
     if (auto program = Spawn(command)) return {std::move(program), ""};
-    if (!for_windows) return {};
-    return {nullptr, command.Program +
-                         " is a Windows program, which this system runs through wine.\n"
-                         "Please install wine and try again."};
+    return {nullptr, advice + "Please install wine and try again."};
 }
 
 bool SystemPrograms::Show_text(const std::string& path) {
@@ -174,7 +183,8 @@ bool SystemPrograms::Show_text(const std::string& path) {
 }
 
 bool SystemPrograms::Show_document(const std::string& address) {
-    return Spawn({"xdg-open", {address}, ""}) != nullptr;
+    const auto opener = Spawn({"xdg-open", {address}, ""});
+    return opener && !Failure_at_once(*opener, patience_);
 }
 
 }  // namespace tidemark

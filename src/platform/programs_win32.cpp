@@ -14,7 +14,12 @@ class RunningProcess : public RunningProgram {
   public:
     explicit RunningProcess(HANDLE process) : process_(process) {}
 
-    bool Has_ended() override { return WaitForSingleObject(process_.Get(), 0) == WAIT_OBJECT_0; }
+    std::optional<ProgramEnd> End() override {
+        DWORD status = 0;
+        if (WaitForSingleObject(process_.Get(), 0) != WAIT_OBJECT_0) return std::nullopt;
+        GetExitCodeProcess(process_.Get(), &status);
+        return ProgramEnd{.Status = status};
+    }
 
   private:
     Handle process_;
@@ -59,6 +64,8 @@ std::unique_ptr<RunningProgram> Spawn(const Command& command) {
 }
 
 }  // namespace
+
+SystemPrograms::SystemPrograms(Patience& patience) : patience_(patience) {}
 
 ProgramStart SystemPrograms::Start(const Command& command) {
     return {Spawn(command), ""};

@@ -1,4 +1,7 @@
 // Background image files, whole and spoilt.
+#include <QElapsedTimer>
+#include <QImageWriter>
+#include <QtEndian>
 #include <gtest/gtest.h>
 
 #include "canvas/qt_image_file.h"
@@ -47,6 +50,88 @@ TEST(ImageFileTest, AGIFKeepsItsTransparentColour) {
 
 static QByteArray With(QByteArray bytes, qsizetype at, const QByteArray& other) {
     return bytes.replace(at, other.size(), other);
+}
+
+// The same BMP with its rows from the top down.
+static QByteArray Top_down(const QByteArray& bmp, int width, int height, int bits) {
+    const qsizetype row = (width * bits + 31) / 32 * 4, pixels = bmp.size() - row * height;
+    QByteArray turned = bmp.left(pixels);
+    for (int y = height - 1; y >= 0; --y) turned += bmp.mid(pixels + y * row, row);
+    qToLittleEndian<qint32>(-height, &turned.data()[22]);
+    return turned;
+}
+
+// With the short header of old, and colours of three bytes, all of them.
+static QByteArray With_core_header(const QByteArray& bmp, int height, int bits) {
+    const int pixels = qFromLittleEndian<qint32>(&bmp.data()[10]);
+    QByteArray colours(bits > 8 ? 0 : 3 << bits, '\0');
+    for (int i = 0; 54 + 4 * i < pixels; ++i) colours.replace(3 * i, 3, bmp.mid(54 + 4 * i, 3));
+    QByteArray core = bmp.left(14) + QByteArray("\x0C\0\0\0", 4) + bmp.mid(18, 2) + bmp.mid(22, 2) +
+                      bmp.mid(26, 4) + colours;
+    qToLittleEndian<qint32>(static_cast<qint32>(core.size()), &core.data()[10]);
+    qToLittleEndian<qint16>(static_cast<qint16>(height), &core.data()[20]);
+    return core + bmp.mid(pixels);
+}
+
+TEST(ImageFileTest, ABMPMayGoFromTheTopDown) {
+    for (const auto& [bits, format] : {std::pair{1, QImage::Format_Mono},
+                                       {4, QImage::Format_Indexed8},
+                                       {24, QImage::Format_RGB32}}) {
+        QImage image = Red_and_blue(300, 200);
+        image.setPixelColor(0, 0, Qt::blue);  // so that its top differs from its bottom
+        image = image.convertToFormat(format);
+        const QByteArray bmp = Encoded(image, "bmp"), turned = Top_down(bmp, 300, 200, bits);
+        const QImage expected = Read(bmp);
+        ASSERT_EQ(expected.size(), image.size()) << bits;
+        EXPECT_EQ(Read(turned), expected) << bits;
+        EXPECT_EQ(Read(With_core_header(turned, -200, bits)), expected) << bits;
+        EXPECT_TRUE(Read(turned.chopped(1)).isNull()) << bits;
+    }
+}
+
+// A JPEG of one colour has the fewest bytes for its blocks.
+TEST(ImageFileTest, ALargePictureOfOneColourIsShown) {
+    QImage white(10000, 10000, QImage::Format_Grayscale8);
+    white.fill(Qt::white);
+    for (const bool progressive : {false, true}) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        QImageWriter writer(&buffer, "jpeg");
+        writer.setOptimizedWrite(true);
+        writer.setProgressiveScanWrite(progressive);
+        ASSERT_TRUE(writer.write(white));
+        EXPECT_EQ(Read(buffer.data(), 10000).size(), white.size());
+    }
+}
+
+TEST(ImageFileTest, WhatWouldTakeMinutesOrGigabytesIsRefusedAtOnce) {
+    constexpr qsizetype MiB = 1 << 20;
+    const QByteArray jpeg = JPEG_bytes(300, 200), gif = GIF_bytes();
+    const auto frame = jpeg.indexOf(QByteArray("\xFF\xC0\0\x11\x08", 5)) + 5;
+    const auto scan = jpeg.indexOf("\xFF\xDA");
+    const QByteArray most("\x7F\xFF\x7F\xFF", 4), end("\xFF\xD9");
+    const QByteArray empty_scan("\xFF\xDA\0\x08\1\1\0\1\1\0", 10);
+    QByteArray run_lengths = BMP_bytes(8, 8).chopped(32) + QByteArray("\0\1", 2);
+    run_lengths[30] = 2;  // packed, 4 bits a pixel
+    run_lengths.replace(34, 4, QByteArray("\2\0\0\0", 4));
+    QElapsedTimer time;
+    time.start();
+    for (const auto& [what, bytes] : std::vector<std::pair<const char*, QByteArray>>{
+             {"jpeg, a few bytes claim 32767 x 32767", With(jpeg, frame, most)},
+             {"gif, the same", With(With(gif, 6, most), 32, most)},
+             {"bmp, the same", With(run_lengths, 18, QByteArray("\0\x3F\0\0\0\x3F\0\0", 8))},
+             {"jpeg, comments",
+              jpeg.left(2) + QByteArray("\xFF\xFE\0\2", 4).repeated(2 * MiB) + jpeg.mid(2)},
+             {"jpeg, fill bytes without end",
+              jpeg.left(2) + QByteArray(8 * MiB, '\xFF') + jpeg.mid(2).chopped(2)},
+             {"jpeg, scans",
+              With(jpeg, frame, "\x07\xD0\x07\xD0").chopped(2) + empty_scan.repeated(600) + end},
+             {"gif, comments", gif.left(19) + QByteArray("!\xFE\0", 3).repeated(MiB) + gif.mid(27)},
+         })
+        EXPECT_TRUE(Read(bytes, 32767).isNull()) << what;
+    EXPECT_LT(time.elapsed(), 2000);
+    EXPECT_EQ(Read(run_lengths).size(), QSize(8, 8)) << "nothing is wrong with it but the size";
+    EXPECT_EQ(Read(jpeg.left(scan) + QByteArray(MiB, '\xFF') + jpeg.mid(scan)).height(), 200);
 }
 
 TEST(ImageFileTest, BadFilesAreRefused) {

@@ -2,6 +2,7 @@
 // it answers.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <strings.h>
@@ -84,8 +85,8 @@ class RecordingPrograms : public Programs {
     Texts Shown;
     std::vector<Command> Started;
     bool CanShow = true, CanStart = true;
-    std::string Advice;  // of a start that fails
-    bool Ended = false;  // whether what was started has ended
+    std::string Advice;             // of a start that fails
+    std::optional<ProgramEnd> End;  // of what was started
 
     bool Show_text(const std::string& path) override { return Show_document(path); }
     bool Show_document(const std::string& address) override {
@@ -96,15 +97,34 @@ class RecordingPrograms : public Programs {
     ProgramStart Start(const Command& command) override {
         Started.push_back(command);
         if (!CanStart) return {nullptr, Advice};
-        return {std::make_unique<Running>(Ended), ""};
+        return {std::make_unique<Running>(End), ""};
     }
 
   private:
     struct Running : RunningProgram {
-        explicit Running(const bool& ended) : ended_(ended) {}
-        bool Has_ended() override { return ended_; }
-        const bool& ended_;
+        explicit Running(const std::optional<ProgramEnd>& end) : end_(end) {}
+        std::optional<ProgramEnd> End() override { return end_; }
+        const std::optional<ProgramEnd>& end_;
     };
+};
+
+// Waiting takes no time, but meanwhile something may happen.
+class RecordingPatience : public Patience {
+  public:
+    std::function<void()> Meanwhile = [] {};
+    int Waited = 0;            // milliseconds
+    int CancelledAfter = 1e9;  // the same
+    std::string Outcome;
+
+    bool Wait(const std::string&, int milliseconds) override {
+        Wait_a_moment(milliseconds);
+        return Waited < CancelledAfter;
+    }
+    void Wait_a_moment(int milliseconds) override {
+        Waited += milliseconds;
+        Meanwhile();
+    }
+    void Over(const std::string& outcome) override { Outcome = outcome; }
 };
 
 struct FakePlatform {
@@ -113,7 +133,8 @@ struct FakePlatform {
     MemoryFiles files;
     StoppedClock clock;
     RecordingPrograms programs;
-    Platform platform{messages, choosers, files, clock, programs, "/start"};
+    RecordingPatience patience;
+    Platform platform{messages, choosers, files, clock, programs, patience, "/start"};
 };
 
 }  // namespace tidemark

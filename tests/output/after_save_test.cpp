@@ -2,24 +2,22 @@
 #include "output/after_save.h"
 
 #include "fakes/rules_test.h"
-#include "platform/patience.h"
 
 namespace tidemark {
 
 const std::string bgl = "/s/Skye-VTP.BGL", copied = "/fs/Skye-VTP.BGL";
 
 // Everything is to be done, and the compiled file of an earlier run is there.
-struct Sequence : FakePlatform, Patience {
+struct Sequence : FakePlatform {
     Sequence() {
         files.Content = {{"/s/BGLC.EXE", ""}, {task.File, ""}, {"/fs/", ""}, {bgl, "old"}};
+        patience.Meanwhile = [this] { Compile_on(); };
     }
 
-    // Takes no time, but meanwhile the compiler goes on.
-    void Wait(const std::string&, int milliseconds) override {
-        waited += milliseconds;
-        for (; !writes.empty() && waited >= 1000 * writes.front(); writes.pop_front())
+    void Compile_on() {
+        for (; !writes.empty() && patience.Waited >= 1000 * writes.front(); writes.pop_front())
             files.Content[bgl] += 'x';
-        programs.Ended = waited >= 1000 * ends;
+        if (patience.Waited >= 1000 * ends) programs.End = end;
     }
 
     // Something that happens, with its times in seconds.
@@ -41,26 +39,30 @@ struct Sequence : FakePlatform, Patience {
         if (event == "full disk") files.WriteError = "No space left on device";
         for (words >> word; words >> time;)
             if (word == "writes") writes.push_back(time);
-        if (word == "ends") ends = time;
+        if (word == "ends" || word == "fails" || word == "killed") ends = time;
+        if (word == "fails") end.Status = 2;
+        if (word == "killed") end.Signal = 9;
+        if (word == "cancelled") patience.CancelledAfter = static_cast<int>(1000 * time);
     }
 
     // What came of it all.
     std::string Outcome() {
         const std::string said = messages.Said();
         std::ostringstream outcome;
-        outcome << said << (said.empty() ? "[" : " [") << programs.Shown.size() << " shown, "
-                << programs.Started.size() << " started, " << files.Content[bgl].size()
-                << " compiled, " << files.Content[copied].size() << " copied, "
-                << (waited + 999) / 1000 << " s]";
+        outcome << said << patience.Outcome
+                << (said.empty() && patience.Outcome.empty() ? "[" : " [") << programs.Shown.size()
+                << " shown, " << programs.Started.size() << " started, "
+                << files.Content[bgl].size() << " compiled, " << files.Content[copied].size()
+                << " copied, " << (patience.Waited + 999) / 1000 << " s]";
         return outcome.str();
     }
 
-    void Run() { After_save(task, messages, files, programs, *this); }
+    void Run() { After_save(task, platform); }
 
     AfterSaveTask task{"/s/Skye-VTP.asm", true, true, true, "/fs/"};
     std::deque<double> writes;  // when the compiled file grows by a byte
     double ends = 1e9;          // when the compiler does
-    int waited = 0;             // milliseconds
+    ProgramEnd end;
 };
 
 TEST(AfterSaveTest, WhatIsAskedForIsDoneUntilAStepFails) {
@@ -87,17 +89,11 @@ TEST(AfterSaveTest, TheRightFilesAreShownStartedAndReplaced) {
     EXPECT_FALSE(sequence.files.Exists(copied));
 
     Sequence named_like_it;
-    named_like_it.task = {"/s/Coast.BGL", false, true, false, ""};
+    named_like_it.task = {.File = "/s/Coast.BGL", .Compile = true, .FSFolder = ""};
     named_like_it.files.Content["/s/Coast.BGL"] = "text";
     named_like_it.Run();
     EXPECT_TRUE(named_like_it.files.Exists("/s/Coast.BGL")) << "never deleted";
 }
-
-class RealPatience : public Patience {
-    void Wait(const std::string&, int milliseconds) override {
-        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-    }
-};
 
 // With a real compiler, real folders and real time.
 TEST(AfterSaveTest, ASlowCompilersFileIsCopiedWholeOverTheOldOneWhateverItsNamesAndTheirCase) {
@@ -111,12 +107,15 @@ TEST(AfterSaveTest, ASlowCompilersFileIsCopiedWholeOverTheOldOneWhateverItsNames
     Write_file(file, text);
     Write_file("-vtp A;$(B)'.bgl", "of an earlier run");
     Write_file(compiled, "of an earlier run");
-    RecordingMessages messages;
+    FakePlatform fake;
     DiskFiles files;
-    SystemPrograms programs;
-    RealPatience patience;
-    After_save({file, false, true, true, simulator.Path()}, messages, files, programs, patience);
-    EXPECT_EQ(messages.Said(),
+    fake.patience.Meanwhile = [] { std::this_thread::sleep_for(std::chrono::milliseconds(100)); };
+    SystemPrograms programs(fake.patience);
+    Platform platform{fake.messages, fake.choosers, files, fake.clock, programs, fake.patience, ""};
+    const AfterSaveTask task{
+        .File = file, .Compile = true, .CopyToFS = true, .FSFolder = simulator.Path()};
+    After_save(task, platform);
+    EXPECT_EQ(fake.messages.Said(),
               "Tidemark - File OK: -VTP a;$(b)'.BGL successfully copied to " + simulator.Path());
     EXPECT_EQ(File_content(compiled), "BGL begins\n" + text + "BGL ends");
 }

@@ -10,8 +10,7 @@ TEST(HelpTest, ADocumentBelowTheCurrentFolderComesFirstAndWithoutABrowserItsName
     const std::string installed = "/opt/tidemark/share/doc/tidemark/Documentation/Tutorial.html";
     FakePlatform fake;
     const auto show = [&](const HelpDocument& document) {
-        Show_help(document, {"/home/me", "/opt/tidemark/bin"}, fake.messages, fake.files,
-                  fake.programs);
+        Show_help(document, {"/home/me", "/opt/tidemark/bin"}, fake.platform);
         return fake.programs.Shown.back();
     };
     EXPECT_EQ(show(TutorialDocument), "file://" + here) << "neither is there";

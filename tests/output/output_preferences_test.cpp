@@ -24,8 +24,8 @@ TEST(OutputNamesTest, AreMadeOfTheRootAndOfTheAssemblerFile) {
 TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
     using Preferences = OutputPreferences;
     for (bool Preferences::*flag :
-         {&Preferences::FScopy, &Preferences::Check1, &Preferences::Check2, &Preferences::Check3,
-          &Preferences::Check4}) {
+         {&Preferences::FScopy, &Preferences::LWMNotepad, &Preferences::LWMCompile,
+          &Preferences::VTPNotepad, &Preferences::VTPCompile}) {
         Session session;
         Document document(session);
         Preferences preferences{.RootText = "/out/Skye.asm", .FSname = "/fs"};
@@ -33,8 +33,8 @@ TEST(OutputPreferencesTest, ConfirmingStoresWhatIsShownNextTime) {
         Confirm_preferences(document, session, preferences);
         const Project& project = document.Now();
         EXPECT_EQ(project.LWMFileName + project.VTPFileName, "/out/Skye-LWM.asm/out/Skye-VTP.asm");
-        EXPECT_EQ(project.LWMNotepad, flag == &Preferences::Check1);
-        EXPECT_EQ(project.VTPCompile, flag == &Preferences::Check4);
+        EXPECT_EQ(project.LWMNotepad, flag == &Preferences::LWMNotepad);
+        EXPECT_EQ(project.VTPCompile, flag == &Preferences::VTPCompile);
         EXPECT_TRUE(project.PrefsSet && session.DataChanged);
         EXPECT_TRUE(session.Panel.LWMsave && session.Panel.VTPsave);
         EXPECT_EQ(Shown_preferences(project), preferences);

@@ -1,4 +1,5 @@
 // What POSIX adds to programs: descriptors, children, permissions, and wine.
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,10 +31,11 @@ class PosixProgramsTest : public testing::Test {
 
     TemporaryFolder folder_;
     const std::string record_ = folder_ / "record";
-    SystemPrograms programs_;
+    RecordingPatience patience_;
+    SystemPrograms programs_{patience_};
 };
 
-TEST_F(PosixProgramsTest, AStartedProgramIsNobodysChildHasNoDescriptorOfOursAndItsEndIsSeen) {
+TEST_F(PosixProgramsTest, AStartedProgramHasNoDescriptorOfOursAndItsEndIsSeen) {
     ASSERT_EQ(::dup2(STDOUT_FILENO, 9), 9);  // without O_CLOEXEC
     const std::string waits =
         Program("waits",
@@ -42,11 +44,11 @@ TEST_F(PosixProgramsTest, AStartedProgramIsNobodysChildHasNoDescriptorOfOursAndI
     const ProgramStart start = programs_.Start({waits, {}, folder_.Path()});
     ::close(9);
     ASSERT_TRUE(start.Program);
-    EXPECT_FALSE(start.Program->Has_ended());
+    EXPECT_FALSE(start.Program->End());
     Write_file(folder_ / "go", "");
-    EXPECT_TRUE(Comes_true([&] { return start.Program->Has_ended(); }));
+    EXPECT_TRUE(Comes_true([&] { return start.Program->End().has_value(); }));
     EXPECT_EQ(Recorded(), "none\n");
-    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child, so none to become a zombie";
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left, so no zombie";
 }
 
 TEST_F(PosixProgramsTest, WhatCannotBeStartedIsReported) {
@@ -59,6 +61,41 @@ TEST_F(PosixProgramsTest, WhatCannotBeStartedIsReported) {
         const ProgramStart start = programs_.Start({program, {}, ""});
         EXPECT_TRUE(!start.Program && start.Advice.empty()) << program;
     }
+}
+
+TEST_F(PosixProgramsTest, HowAProgramEndsIsSeenAndWhatFailsAtOnceIsToldUnlessItIsWaitedFor) {
+    patience_.Meanwhile = [] { std::this_thread::sleep_for(std::chrono::milliseconds(5)); };
+    const Variable path("PATH", folder_.Path());
+    const std::string compiler = Program("BGLC.EXE", "MZ\x90");
+    const std::string fails = " is a Windows program, which this system runs through wine.\nIt ";
+    for (const auto& [script, status, signal, text] :
+         {std::tuple{"exit 0", 0u, 0, ""},
+          {"exit 3", 3u, 0, "ended with the status 3."},
+          {"kill -11 $$", 0u, 11, "was ended by the signal 11."}}) {
+        const std::string content = std::string("#!/bin/sh\n") + script + "\n";
+        const ProgramStart start = programs_.Start({Program("program", content), {}, ""});
+        ASSERT_TRUE(start.Program && Comes_true([&] { return start.Program->End().has_value(); }));
+        EXPECT_EQ(start.Program->End()->Status, status);
+        EXPECT_EQ(start.Program->End()->Signal, signal);
+        const bool is_success = start.Program->End()->Is_success();
+
+        Program("wine", content);
+        Program("xdg-open", content);
+        EXPECT_EQ(programs_.Start({compiler, {}, ""}).Advice,
+                  is_success ? "" : compiler + fails + text);
+        EXPECT_EQ(programs_.Show_text("/x.asm"), is_success);
+        EXPECT_EQ(programs_.Show_document("file:///x"), is_success);
+    }
+    Program("xdg-open", "#!/bin/sh\nexec /bin/sleep 3 >/dev/null 2>&1\n");
+    patience_.Waited = 0;
+    EXPECT_TRUE(programs_.Show_text("/x.asm")) << "it goes on";
+    EXPECT_EQ(patience_.Waited, 1000);
+}
+
+// It would hang for good if the pipe were opened.
+TEST_F(PosixProgramsTest, ACompilerThatIsAPipeIsNotOpened) {
+    ASSERT_EQ(::mkfifo((folder_ / "BGLC.EXE").c_str(), 0700), 0);
+    EXPECT_FALSE(programs_.Start({folder_ / "BGLC.EXE", {}, ""}).Program);
 }
 
 TEST_F(PosixProgramsTest, AWindowsProgramGoesThroughWineAndADocumentThroughTheDesktopsOpener) {

@@ -13,10 +13,11 @@ TEST(ProgramsTest, ArgumentsArriveAsTheyAreAndTheEndIsSeen) {
     const std::vector<std::string> arguments{
         "two words", R"("it's")", R"(\"\\" \)", "$(touch x)",  "`touch x`", "-rf",
         "*",         "",          R"(C:\a b\)", "a\\b;|&%x% ", "K\xC3\xBC"};
-    SystemPrograms programs;
+    FakePlatform fake;
+    SystemPrograms programs(fake.patience);
     const ProgramStart start = programs.Start({program, arguments, folder.Path()});
     ASSERT_TRUE(start.Program);
-    EXPECT_TRUE(Comes_true([&] { return start.Program->Has_ended(); }));
+    EXPECT_TRUE(Comes_true([&] { return start.Program->End().has_value(); }));
     std::string expected = folder.Path() + "\n";
     for (const std::string& argument : arguments) expected += argument + "\n";
     EXPECT_EQ(File_content(record), expected);
