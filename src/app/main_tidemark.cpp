@@ -6,6 +6,7 @@
 
 #include "app/qt_application.h"
 #include "app/tidemark_main_window.h"
+#include "platform/folder.h"
 
 namespace {
 
@@ -39,5 +40,6 @@ int main(int argc, char** argv) {
     for (const QString& path : projects)
         QTimer::singleShot(0, &window,
                            [&window, path] { window.Open(QFileInfo(path).absoluteFilePath()); });
+    window.Keep_work_in(tidemark::State_folder());
     return QApplication::exec();
 }

@@ -69,9 +69,6 @@ std::optional<std::string> Choose_project_to_open(Platform& platform) {
     return platform.choosers.Choose(Project_chooser(platform, false));
 }
 
-namespace {
-
-// What follows from a project that was read.
 void Take_over(const std::string& path, Project& project, Session& session, Messages& messages,
                const ShowImage& show_image) {
     session.Opened.Path = path;
@@ -81,6 +78,8 @@ void Take_over(const std::string& path, Project& project, Session& session, Mess
     Refresh_lists(project, session);
     session.Opened.FileSave = true;
 }
+
+namespace {
 
 // The line of the status bar about a file: "bay.TDM, line 3: ...".
 std::string Status_line(const std::string& path, const ProjectFileResult& reading) {

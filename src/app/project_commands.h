@@ -23,6 +23,11 @@ bool Save_project(Document& document, Session& session, Platform& platform);
 // Asks for a file to open; nothing when the user cancels.
 std::optional<std::string> Choose_project_to_open(Platform& platform);
 
+// Within a step, what follows from another project in place of the one before: its picture, its
+// tables put right, what can be saved, and the title from the path it is opened under.
+void Take_over(const std::string& path, Project& project, Session& session, Messages& messages,
+               const ShowImage& show_image);
+
 // Replaces the project by that of a file, with its picture and title, as one step. A missing file
 // is reported with Warn, and ProjectFile keeps its path. A file that is no project is refused as a
 // whole: everything stays as it was. Returns a line for the status bar, which then names the file,

@@ -185,10 +185,12 @@ void TidemarkMain::Open(const QString& path) {
     const std::string status =
         Open_project(Path_from_qt(path), document_, session_, platform_, Screen().Show_image);
     statusBar()->showMessage(To_qt(status));
+    Notice_state();
 }
 
 void TidemarkMain::FileSave_Click() {
     Save_project(document_, session_, platform_);
+    Notice_state();
     Refresh_Graphics();
 }
 
@@ -257,8 +259,10 @@ void TidemarkMain::HelpAbout_Click() {
 }
 
 void TidemarkMain::closeEvent(QCloseEvent* event) {
-    event->setAccepted(May_exit(session_, messages_));
-    if (event->isAccepted()) status_->hide();
+    event->setAccepted(is_ended_from_outside_ || May_exit(session_, messages_));
+    if (!event->isAccepted()) return;
+    status_->hide();
+    if (recovery_ && !is_ended_from_outside_) recovery_->Remove();
 }
 
 namespace {

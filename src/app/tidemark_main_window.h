@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include "app/map_commands.h"
+#include "app/recovery_keeper_window.h"
 #include "app/status_panel_window.h"
 #include "app/tool_bar_window.h"
 #include "canvas/map_view_window.h"
@@ -29,6 +30,10 @@ class TidemarkMain : public QMainWindow {
   public:
     TidemarkMain();
     ~TidemarkMain() override;
+
+    // From now on unsaved work is kept in this folder, in case the program is ended from outside,
+    // and what other editors have lost there is offered once, by an event.
+    void Keep_work_in(const std::string& folder);
 
     // As File > Open with this path chosen.
     void Open(const QString& path);
@@ -95,6 +100,9 @@ class TidemarkMain : public QMainWindow {
     EditPoint& Edit_point_dialog();
     BGproperties& Background_properties();
     CellCalculator& Calculator();
+    void Notice_state();
+    void Offer_lost_work();
+    void End_from_outside(int signals);
     void Run_after_save(const AfterSaveTask& task);
     void Show_help_document(const HelpDocument& document);
 
@@ -111,6 +119,8 @@ class TidemarkMain : public QMainWindow {
     MapView* map_;
     Status* status_;
     ToolBar* tool_bar_;
+    RecoveryKeeper* recovery_ = nullptr;  // null: nothing is kept
+    bool is_ended_from_outside_ = false;
     // Made when they are first used, so that start-up does not wait for them; kept from then on.
     EditPoint* edit_point_ = nullptr;
     BGproperties* background_properties_ = nullptr;

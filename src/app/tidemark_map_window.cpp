@@ -126,6 +126,7 @@ void TidemarkMain::Show_project() {
     Show_picture();
     entries_.BackgroundProperties->setEnabled(!opened.Picture.empty());
     tool_bar_->Show_history(document_);
+    Notice_state();
     Refresh_Graphics();
 }
 

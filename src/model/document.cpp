@@ -33,7 +33,8 @@ void Document::Transaction::Commit(Kind kind, std::string name) {
 void Document::Record(Kind kind, std::string name, const Session& before) {
     const Circumstances after = Circumstances_now();
     ProjectChange change(*settled_, *now_);
-    if (kind == Kind::Step && !change.Is_empty()) {
+    const bool is_change = !change.Is_empty();
+    if (kind == Kind::Step && is_change) {
         for (const Step& step : undone_) bytes_ -= step.Bytes();
         undone_.clear();
         Step step{std::move(name),
@@ -55,7 +56,10 @@ void Document::Record(Kind kind, std::string name, const Session& before) {
         if (!done_.empty()) amend(done_.back().After);
         if (!undone_.empty()) amend(undone_.back().Before);
     }
+    const bool looked_elsewhere = after.PointInCellX != settled_->PointInCellX ||
+                                  after.PointInCellY != settled_->PointInCellY;
     *settled_ = *now_;
+    if (is_change || looked_elsewhere) ++state_;
 }
 
 void Document::Drop_oldest() {
@@ -108,6 +112,7 @@ void Document::Put_back(const Circumstances& circumstances) {
 
 void Document::Finish_travel() {
     *settled_ = *now_;
+    ++state_;
     session_.DataChanged = Differs_from_saved();
     announce_();
 }

@@ -1,6 +1,7 @@
 // The gate that every change of the project passes, and the history of what has passed it.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -31,6 +32,10 @@ class Document {
     const Project& Now() const { return *now_; }
     // The project as the last step left it, while another one is in progress.
     const Project& Settled() const { return *settled_; }
+
+    // The number of the state that the project is in; every other state it was or will be in has
+    // another one.
+    std::uint64_t State() const { return state_; }
 
     // Called once after each step, and after what turned out to be none.
     void Announce_to(std::function<void()> announce) { announce_ = std::move(announce); }
@@ -132,7 +137,8 @@ class Document {
     std::unique_ptr<Project> now_, settled_, saved_;
     std::deque<Step> done_, undone_;  // undone_.back() is the next to be redone
     std::size_t bytes_ = 0;           // of both
-    int depth_ = 0;                   // of the calls of Do that are in progress
+    std::uint64_t state_ = 0;
+    int depth_ = 0;  // of the calls of Do that are in progress
     std::function<void()> announce_ = [] {};
 };
 
