@@ -1,9 +1,13 @@
 #include "app/project_commands.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "app/map_commands.h"
 #include "app/read_project.h"
 #include "model/path_text.h"
 #include "model/project_file.h"
+#include "output/output_names.h"
 
 namespace tidemark {
 
@@ -28,7 +32,46 @@ bool Check_texts(const Project& project, Messages& messages) {
     return !unsavable;
 }
 
+// A name that nobody chose here and that is no project's may be that of any file of the user's.
+bool May_be_saved_under_its_name(const Project& project, const Session& session,
+                                 Messages& messages) {
+    const std::string& name = project.ProjectFile;
+    return Has_extension(name, ".TDM") || name == session.ChosenPath ||
+           Ask(messages, "Tidemark - Save Warning",
+               "This project is to be saved as " + name +
+                   ", which is no name of a project (.TDM).\nSave it there all the same?");
+}
+
+// The compilers that saving starts, each once.
+std::vector<std::string> Compilers_started(const Project& project) {
+    std::vector<std::string> compilers;
+    if (project.VTPCompile) compilers.push_back(Compiler_path(project.VTPFileName));
+    if (project.LWMCompile) compilers.push_back(Compiler_path(project.LWMFileName));
+    const auto repeated = std::ranges::unique(compilers);
+    compilers.erase(repeated.begin(), repeated.end());
+    return compilers;
+}
+
 }  // namespace
+
+std::string Save_path(const Project& project, const Session& session) {
+    const std::string& name = project.ProjectFile;
+    return name.empty() || Is_full_path(name) ? name : session.Opened.Folder + name;
+}
+
+std::string Opening_remark(const Project& project, const Session& session, Platform& platform) {
+    std::string remark;
+    const std::string path = Save_path(project, session);
+    if (!path.empty() && path != session.Opened.Path &&
+        !platform.files.Is_same_file(path, session.Opened.Path)) {
+        remark = "Save Project writes to " + path;
+        if (Is_path_of_another_system(path, platform.StartFolder))
+            remark += ", a path of another system: use Save Project As";
+    }
+    for (const std::string& compiler : Compilers_started(project))
+        remark += (remark.empty() ? "" : "; ") + ("saving starts the compiler " + compiler);
+    return remark;
+}
 
 bool Choose_project_to_save(Document& document, Session& session, Platform& platform) {
     const auto path = platform.choosers.Choose(Project_chooser(platform, true));
@@ -37,7 +80,7 @@ bool Choose_project_to_save(Document& document, Session& session, Platform& plat
         std::string before = std::exchange(project.ProjectFile, *path);
         const bool can_be_saved = Check_texts(project, platform.messages);
         if (can_be_saved)
-            session.Opened.Path = *path;
+            session.Opened.Path = session.ChosenPath = *path;
         else
             project.ProjectFile = std::move(before);
         return can_be_saved;
@@ -49,18 +92,21 @@ bool Save_project(Document& document, Session& session, Platform& platform) {
     if (project.ProjectFile.empty() && !Choose_project_to_save(document, session, platform))
         return false;
     if (!Check_texts(project, platform.messages)) return false;
-    const std::string& path = project.ProjectFile;
+    if (!May_be_saved_under_its_name(project, session, platform.messages)) return false;
+    const std::string& name = project.ProjectFile;
+    const std::string path = Save_path(project, session);
     if (platform.files.Exists(path) &&
-        !Ask(platform.messages, "Tidemark - File Exists", path + " - file exists - overwrite?"))
+        !Ask(platform.messages, "Tidemark - File Exists", name + " - file exists - overwrite?"))
         return false;
 
     const std::string bytes = Project_bytes(project, platform.clock.Now_text());
     const FileResult written = platform.files.Replace(path, bytes);
     if (!written) {
-        Warn(platform.messages, path + " could not be saved: " + written.Reason());
+        session.DataChanged = true;
+        Warn(platform.messages, name + " could not be saved: " + written.Reason());
         return false;
     }
-    Inform(platform.messages, "Tidemark - Saved OK", path + " saved successfully");
+    Inform(platform.messages, "Tidemark - Saved OK", name + " saved successfully");
     document.Mark_saved();
     return true;
 }
@@ -103,8 +149,11 @@ std::string Open_project(const std::string& path, Document& document, Session& s
         if (read.IsRead) Take_over(path, project, session, platform.messages, show_image);
         return read;
     });
-    if (reading.IsRead) document.Mark_saved();
-    return Status_line(path, reading);
+    std::string status = Status_line(path, reading);
+    if (!reading.IsRead) return status;
+    document.Mark_saved();
+    const std::string remark = Opening_remark(document.Now(), session, platform);
+    return status + (status.empty() || remark.empty() ? "" : "; ") + remark;
 }
 
 bool May_exit(const Session& session, Messages& messages) {

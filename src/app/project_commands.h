@@ -15,8 +15,18 @@ namespace tidemark {
 // is no step that could be undone.
 bool Choose_project_to_save(Document& document, Session& session, Platform& platform);
 
-// Writes the project to ProjectFile, asking for a name when it has none and before an existing file
-// is replaced, and says so when it is done. True when it was written; DataChanged is then cleared.
+// Where Save writes: ProjectFile, which is meant from the opened project's folder when it is no
+// full path. Empty as long as the project has no name.
+std::string Save_path(const Project& project, const Session& session);
+
+// What the user should know of a project that was just opened, for the status bar: where Save
+// writes when that is another file than the opened one, and which compiler saving will start. Empty
+// when there is nothing to say.
+std::string Opening_remark(const Project& project, const Session& session, Platform& platform);
+
+// Writes the project to Save_path, asking for a name when it has none and before an existing file
+// is replaced (and first of all when a stored name does not end in ".TDM", since a project may come
+// from anyone), and says so when it is done. True when it was written; DataChanged is then cleared.
 // A failure is reported with Warn, naming the file and the reason; the old file is then as it was.
 bool Save_project(Document& document, Session& session, Platform& platform);
 

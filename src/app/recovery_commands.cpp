@@ -21,19 +21,19 @@ std::string Lost_work_text(const LostWork& lost) {
            "\nIt has " + Counted(lost.Points(), "point") + ", " +
            Counted(lost.Polygons(), "polygon") + " and " +
            Counted(lost.ClearedCells(), "cleared cell") +
-           ".\n\nRecover goes on with it, Discard removes it for good, Later asks again at the next "
+           ".\n\nRecover goes on with it, Discard removes it for good, Later asks again at the "
+           "next "
            "start.";
 }
 
 void Recover(LostWork& lost, Recovery& recovery, Document& document, Session& session,
              Platform& platform, const ShowImage& show_image) {
     const std::string path = lost.Unsaved.ProjectPath;
-    document.Do("recover " + (path.empty() ? "a project" : Last_part(path)),
-                [&](Project& project) {
-                    project = *lost.Unsaved.Work;
-                    Take_over(path, project, session, platform.messages, show_image);
-                    session.Opened.FileSave = !path.empty();
-                });
+    document.Do("recover " + (path.empty() ? "a project" : Last_part(path)), [&](Project& project) {
+        project = *lost.Unsaved.Work;
+        Take_over(path, project, session, platform.messages, show_image);
+        session.Opened.FileSave = !path.empty();
+    });
     session.DataChanged = true;
     recovery.Take_over(lost, document.State());
 }

@@ -83,8 +83,7 @@ void RecoveryKeeper::Complain_once(const FileResult& result) {
 void RecoveryKeeper::Offer_lost_work(QWidget* owner,
                                      const std::function<void(LostWork&)>& recover) {
     LostWorks lost = recovery_.Find_lost();
-    if (!lost.Complaints.empty())
-        Q_EMIT Remarked("Recovery: " + To_qt(lost.Complaints.front()));
+    if (!lost.Complaints.empty()) Q_EMIT Remarked("Recovery: " + To_qt(lost.Complaints.front()));
     for (LostWork& work : lost.Found) {
         const Answer answer = Ask_about(work, owner);
         if (answer == Answer::Discard)

@@ -1,4 +1,5 @@
-// Keeps the unsaved work of this editor safe while it runs, and offers that of editors that are gone.
+// Keeps the unsaved work of this editor safe while it runs, and offers that of editors that are
+// gone.
 #pragma once
 
 #include <QObject>

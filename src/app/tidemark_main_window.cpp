@@ -88,7 +88,8 @@ TidemarkMain::TidemarkMain()
                 Path_from_qt(QDir::currentPath())},
       map_(new MapView(this)),
       status_(new Status(document_, session_, messages_, this)),
-      tool_bar_(new ToolBar(this)) {
+      tool_bar_(new ToolBar(this)),
+      watch_(new ProjectWatch(this)) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);
@@ -98,6 +99,7 @@ TidemarkMain::TidemarkMain()
     setCentralWidget(map_);
     statusBar();
     Wire_tool_bar();
+    Wire_watch();
     Wire_map();
     Wire_status_panel();
     Form_Load();
@@ -184,12 +186,15 @@ void TidemarkMain::FileOpen_Click() {
 void TidemarkMain::Open(const QString& path) {
     const std::string status =
         Open_project(Path_from_qt(path), document_, session_, platform_, Screen().Show_image);
-    statusBar()->showMessage(To_qt(status));
+    Say(status);
+    Watch_project();
     Notice_state();
 }
 
 void TidemarkMain::FileSave_Click() {
+    watch_->Watch({});  // our own writing is no other program's
     Save_project(document_, session_, platform_);
+    Watch_project();
     Notice_state();
     Refresh_Graphics();
 }

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include "app/map_commands.h"
+#include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
 #include "app/status_panel_window.h"
 #include "app/tool_bar_window.h"
@@ -61,6 +62,7 @@ class TidemarkMain : public QMainWindow {
     void Build_menus();
     void Wire_map();
     void Wire_tool_bar();
+    void Wire_watch();
     void Wire_status_panel();
     void Place_windows();
     void Form_Load();
@@ -101,6 +103,8 @@ class TidemarkMain : public QMainWindow {
     BGproperties& Background_properties();
     CellCalculator& Calculator();
     void Notice_state();
+    void Watch_project();
+    void Say(const std::string& text);
     void Offer_lost_work();
     void End_from_outside(int signals);
     void Run_after_save(const AfterSaveTask& task);
@@ -119,6 +123,7 @@ class TidemarkMain : public QMainWindow {
     MapView* map_;
     Status* status_;
     ToolBar* tool_bar_;
+    ProjectWatch* watch_;
     RecoveryKeeper* recovery_ = nullptr;  // null: nothing is kept
     bool is_ended_from_outside_ = false;
     // Made when they are first used, so that start-up does not wait for them; kept from then on.

@@ -43,6 +43,8 @@ struct Session {
     Int16 CursorCellX, CursorCellY;      // LOD13 column and row
     Int16 CursorInCellX, CursorInCellY;  // cell units, limited to 0..255
 
+    std::string ChosenPath;  // that the user chose last to save the project to; empty: none
+
     PanelState Panel;
     OpenedState Opened;
 };

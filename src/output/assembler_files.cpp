@@ -5,6 +5,7 @@
 #include "model/drawing_modes.h"
 #include "model/segments.h"
 #include "model/text_forms.h"
+#include "output/foreign_file.h"
 #include "output/lwm_text.h"
 #include "output/vtp_text.h"
 
@@ -40,7 +41,15 @@ std::optional<std::string> VTP_refusal(const Project& project) {
     return std::nullopt;
 }
 
+// Asks before a file is replaced that is somebody else's work.
+bool May_replace(const std::string& path, Messages& messages, Files& files) {
+    return !Is_foreign_file(path, files) ||
+           Ask(messages, "Tidemark - Save Warning",
+               path + " is not an assembler file of Tidemark's.\nReplace it all the same?");
+}
+
 bool Write_file(const std::string& path, std::string_view bytes, Messages& messages, Files& files) {
+    if (!May_replace(path, messages, files)) return false;
     const FileResult written = files.Replace(path, bytes);
     if (!written) Warn(messages, path + " could not be written: " + written.Reason());
     return static_cast<bool>(written);

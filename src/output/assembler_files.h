@@ -1,6 +1,6 @@
 // Writing the two assembler files, with their refusals and messages.
 //
-// A file is replaced as a whole or not at all. A refusal or a failed write is told with Warn, a
+// A file is replaced as a whole or not at all, and one that is none of ours only after a question. A refusal or a failed write is told with Warn, a
 // failed write naming the file and the reason, and leaves an old file of that name as it was.
 #pragma once
 
@@ -20,8 +20,8 @@ void VTP_file_write(const Project& project, Session& session, Messages& messages
 bool LWM_file_write(const Project& project, Messages& messages, Files& files);
 
 // The commands "Save VTP data to file" and "Save LWM data to file" up to the actions after saving:
-// write, and say that it is saved unless one of those actions will show it. True when the file was
-// written.
+// write, and say that it is saved unless one of
+// those actions will show it. True when the file was written.
 bool Save_VTP_file(const Project& project, Session& session, Messages& messages, Files& files);
 bool Save_LWM_file(const Project& project, Messages& messages, Files& files);
 

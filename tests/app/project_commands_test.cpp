@@ -65,7 +65,9 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
         EXPECT_EQ(session.DataChanged, !is_opened) << path;
         return status + fake.messages.Said();
     };
-    EXPECT_EQ(open("/moved/c.tdm", true), "");
+    EXPECT_EQ(open("/moved/c.tdm", true),
+              "Save Project writes to /home/me/coast 1.tdm; saving starts the compiler BGLC.EXE; "
+              "saving starts the compiler C:\\Scenery\\BGLC.EXE");
     EXPECT_EQ(open("/maps/bad.tdm", false),
               "bad.tdm, line 3: AreaTopVTP does not fit -32768..32767: 70000");
     EXPECT_EQ(open("/maps/huge.tdm", false), "huge.tdm: File too large");
@@ -76,6 +78,49 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
     EXPECT_EQ(open("/maps/short.tdm", true),
               "short.tdm, line 3: the file ends early; the values that are missing are 0, off or "
               "empty");
+}
+
+// Given: the path that is opened and the one that it stores. Made: what is said on opening, and
+// where Save then writes, after its questions.
+TEST(ProjectCommandsTest, SaveWritesWhereTheStoredPathSaysAndSaysSo) {
+    Expect_cases("app/data/save-paths.txt", [](const Given& given) {
+        FakePlatform fake;
+        Project stored;
+        stored.ProjectFile = given[1];
+        const std::string bytes = Project_bytes(stored, "then");
+        fake.files.Content = {{given[0], bytes}};
+        fake.messages.Answers = {MessageAnswer::Yes, MessageAnswer::Yes};
+        Session session;
+        Document document(session);
+        std::string made = Open_project(given[0], document, session, fake.platform, nullptr);
+        EXPECT_TRUE(Save_project(document, session, fake.platform));
+        const auto& questions = fake.messages.Shown;
+        if (questions[0].Title == "Tidemark - Save Warning") made += " asked,";
+        for (const auto& [path, content] : fake.files.Content)
+            if (content != bytes) made += " " + path;
+        return made.substr(made.find_first_not_of(' '));
+    });
+}
+
+TEST(ProjectCommandsTest, ANameThatIsNoProjectsIsWrittenOnlyAfterYesAndAFailureCountsAsUnsaved) {
+    FakePlatform fake;
+    Project stored;
+    stored.ProjectFile = "/home/me/.profile";
+    fake.files.Content = {{"/home/me/bay.TDM", Project_bytes(stored, "then")},
+                          {"/home/me/.profile", "mine"}};
+    Session session;
+    Document document(session);
+    Open_project("/home/me/bay.TDM", document, session, fake.platform, nullptr);
+    EXPECT_FALSE(Save_project(document, session, fake.platform));
+    EXPECT_EQ(fake.files.Content["/home/me/.profile"], "mine");
+    fake.choosers.Answers = {"/home/me/odd.name"};
+    fake.messages.Shown.clear();
+    EXPECT_TRUE(Choose_project_to_save(document, session, fake.platform));
+    EXPECT_TRUE(Save_project(document, session, fake.platform)) << "the user chose it";
+    fake.files.WriteError = "full";
+    fake.messages.Answers = {MessageAnswer::Yes};
+    EXPECT_FALSE(Save_project(document, session, fake.platform));
+    EXPECT_TRUE(session.DataChanged);
 }
 
 TEST(ProjectCommandsTest, OnlyUnsavedChangesAreAskedAboutAtTheExit) {

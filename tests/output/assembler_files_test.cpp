@@ -90,6 +90,20 @@ TEST_F(AssemblerFilesTest, WhatCannotBeWrittenIsRefusedAndTheOldFileStays) {
     });
 }
 
+TEST_F(AssemblerFilesTest, AFileOfAnotherKindIsReplacedOnlyAfterYes) {
+    Add_cleared_cell(p, 1, 1, 8);
+    Add_polygon(p, 1, 1, 10, 0, 4);
+    p.VTPFileName = p.LWMFileName = "notes.txt";
+    fake.messages.Answers = {MessageAnswer::No, MessageAnswer::No, MessageAnswer::Yes};
+    fake.files.Content["notes.txt"] = "mine";
+    EXPECT_FALSE(Save_VTP_file(p, session, fake.messages, fake.files));
+    EXPECT_FALSE(Save_LWM_file(p, fake.messages, fake.files));
+    EXPECT_EQ(fake.files.Content["notes.txt"], "mine");
+    EXPECT_TRUE(Save_VTP_file(p, session, fake.messages, fake.files));
+    EXPECT_TRUE(Save_LWM_file(p, fake.messages, fake.files)) << "it is one of ours now";
+    EXPECT_EQ(fake.messages.Shown.size(), 5U);
+}
+
 TEST_F(AssemblerFilesTest, ASavedFileIsSaidToBeUnlessAnActionWillShowIt) {
     Add_cleared_cell(p, 1, 1, 8);
     p.VTPFileName = "v";

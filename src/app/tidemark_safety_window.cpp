@@ -5,16 +5,18 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include "app/project_commands.h"
 #include "app/recovery_commands.h"
 #include "app/tidemark_main_window.h"
 #include "platform/ending_signals.h"
+#include "platform/qt_text.h"
 
 namespace tidemark {
 
 void TidemarkMain::Keep_work_in(const std::string& folder) {
     recovery_ = new RecoveryKeeper(folder, document_, session_, platform_, this);
     connect(recovery_, &RecoveryKeeper::Remarked, this,
-            [this](const QString& text) { statusBar()->showMessage(text); });
+            [this](const QString& text) { Say(From_qt(text)); });
     QTimer::singleShot(0, this, &TidemarkMain::Offer_lost_work);
     if (const int signals = Pipe_of_ending_signals(); signals >= 0) {
         auto* const notifier = new QSocketNotifier(signals, QSocketNotifier::Read, this);
@@ -26,6 +28,26 @@ void TidemarkMain::Keep_work_in(const std::string& folder) {
         recovery_->Write_now();
         is_ended_from_outside_ = true;
     });
+}
+
+void TidemarkMain::Wire_watch() {
+    connect(watch_, &ProjectWatch::Changed, this, [this](const QString& path) {
+        Say(Path_from_qt(path) +
+            " has been changed by another program; Save Project would replace it");
+    });
+    connect(watch_, &ProjectWatch::Vanished, this, [this](const QString& path) {
+        Say(Path_from_qt(path) + " is gone; Save Project writes it anew");
+    });
+    // What does not fit the line can be read whole in the tooltip.
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(), &QStatusBar::setToolTip);
+}
+
+void TidemarkMain::Watch_project() {
+    watch_->Watch(To_qt(Save_path(document_.Now(), session_)));
+}
+
+void TidemarkMain::Say(const std::string& text) {
+    statusBar()->showMessage(To_qt(text));
 }
 
 void TidemarkMain::Notice_state() {
