@@ -47,8 +47,7 @@ std::vector<std::string> Compilers_started(const Project& project) {
     std::vector<std::string> compilers;
     if (project.VTPCompile) compilers.push_back(Compiler_path(project.VTPFileName));
     if (project.LWMCompile) compilers.push_back(Compiler_path(project.LWMFileName));
-    const auto repeated = std::ranges::unique(compilers);
-    compilers.erase(repeated.begin(), repeated.end());
+    compilers.erase(std::unique(compilers.begin(), compilers.end()), compilers.end());
     return compilers;
 }
 

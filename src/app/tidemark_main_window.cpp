@@ -89,7 +89,8 @@ TidemarkMain::TidemarkMain()
       map_(new MapView(this)),
       status_(new Status(document_, session_, messages_, this)),
       tool_bar_(new ToolBar(this)),
-      watch_(new ProjectWatch(this)) {
+      watch_(new ProjectWatch(this)),
+      status_line_(new StatusLine(*statusBar())) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);

@@ -9,6 +9,7 @@
 #include "app/map_commands.h"
 #include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
+#include "app/status_line_window.h"
 #include "app/status_panel_window.h"
 #include "app/tool_bar_window.h"
 #include "canvas/map_view_window.h"
@@ -124,6 +125,7 @@ class TidemarkMain : public QMainWindow {
     Status* status_;
     ToolBar* tool_bar_;
     ProjectWatch* watch_;
+    StatusLine* status_line_;
     RecoveryKeeper* recovery_ = nullptr;  // null: nothing is kept
     bool is_ended_from_outside_ = false;
     // Made when they are first used, so that start-up does not wait for them; kept from then on.

@@ -51,6 +51,7 @@ void TidemarkMain::Reload_picture() {
 void TidemarkMain::Picture2_MouseMove(float x, float y) {
     if (const auto texts = Move_cursor(document_.Now(), session_, x, y))
         status_->Show_cursor(To_qt(texts->VTP), To_qt(texts->Cell));
+    status_line_->Show_place(document_.Now(), session_);
 }
 
 void TidemarkMain::Picture2_MouseDown(int button) {
@@ -126,6 +127,7 @@ void TidemarkMain::Show_project() {
     Show_picture();
     entries_.BackgroundProperties->setEnabled(!opened.Picture.empty());
     tool_bar_->Show_history(document_);
+    status_line_->Show_counts(document_.Now());
     Notice_state();
     Refresh_Graphics();
 }

@@ -96,6 +96,14 @@ std::optional<LOD8Cell> Calculate_cell(CalculatorTexts& texts, Messages& message
                     Grid_index(180 - (latitude + 90), LOD8DegreesSouth)};
 }
 
+std::optional<double> Angle_degrees(std::string_view text, double most) {
+    const auto parts = Split(text);
+    const auto rest = parts ? Split(parts->After) : std::nullopt;
+    if (!rest) return std::nullopt;
+    const Angle angle = Angle_of(*parts, *rest);
+    return angle.Within(most) ? std::optional(angle.Decimal()) : std::nullopt;
+}
+
 bool Report_cell(const LOD8Cell& cell, bool offer_copy, Messages& messages) {
     constexpr std::string_view title = "Tidemark - Cell Co-ordinates";
     const std::string found = "Given co-ordinates are in LOD8 cell [ " + Int_text(cell.X) + ", " +

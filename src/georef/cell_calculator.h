@@ -30,6 +30,10 @@ struct LOD8Cell {
 // 512). Bad input is told with Warn, resets the text at fault to its template and gives nothing.
 std::optional<LOD8Cell> Calculate_cell(CalculatorTexts& texts, Messages& messages);
 
+// The value of a text "degrees:minutes:seconds"; nothing when it has another form, is beyond `most`
+// degrees, or has more than 60 minutes or seconds.
+std::optional<double> Angle_degrees(std::string_view text, double most);
+
 // Tells the user the cell. With `offer_copy` it asks whether to copy it to the background
 // properties; true when the user wants that.
 bool Report_cell(const LOD8Cell& cell, bool offer_copy, Messages& messages);

@@ -1,6 +1,6 @@
-// busy_editor FOLDER SEED: an editor that is used at random until it is ended from outside. Its work is
-// kept in FOLDER/state. After every step it adds a line to FOLDER/log: the time (milliseconds of the
-// steady clock) and the project's Content_mark.
+// busy_editor FOLDER SEED: an editor that is used at random until it is ended from outside. Its
+// work is kept in FOLDER/state. After every step it adds a line to FOLDER/log: the time
+// (milliseconds of the steady clock) and the project's Content_mark.
 #include <chrono>
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,0 +1,22 @@
+// What the right end of the status bar says.
+#pragma once
+
+#include <string>
+
+#include "model/project.h"
+#include "model/session.h"
+
+namespace tidemark {
+
+// "points 562/999  polygons 23/200  cleared 307/1000"; what has come to nine tenths of its limit is
+// followed by "(nearly full)", at its limit by "(full)".
+std::string Counts_text(const Project& project);
+
+// Where the cursor is, in degrees and minutes; empty on a map without scale.
+std::string Cursor_position_text(const Project& project, const Session& session);
+
+// How far the cursor is from the selected point, and in which direction it lies from there; empty
+// when none is selected.
+std::string Distance_text(const Project& project, const Session& session);
+
+}  // namespace tidemark
