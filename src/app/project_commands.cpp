@@ -1,8 +1,5 @@
 #include "app/project_commands.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "app/map_commands.h"
 #include "app/read_project.h"
 #include "model/path_text.h"
@@ -39,16 +36,11 @@ bool May_be_saved_under_its_name(const Project& project, const Session& session,
     return Has_extension(name, ".TDM") || name == session.ChosenPath ||
            Ask(messages, "Tidemark - Save Warning",
                "This project is to be saved as " + name +
-                   ", which is no name of a project (.TDM).\nSave it there all the same?");
+                   ", a name that does not end in .TDM.\nSave it there all the same?");
 }
 
-// The compilers that saving starts, each once.
-std::vector<std::string> Compilers_started(const Project& project) {
-    std::vector<std::string> compilers;
-    if (project.VTPCompile) compilers.push_back(Compiler_path(project.VTPFileName));
-    if (project.LWMCompile) compilers.push_back(Compiler_path(project.LWMFileName));
-    compilers.erase(std::unique(compilers.begin(), compilers.end()), compilers.end());
-    return compilers;
+void Add_remark(std::string& remarks, const std::string& remark) {
+    remarks += (remarks.empty() ? "" : "; ") + remark;
 }
 
 }  // namespace
@@ -67,8 +59,10 @@ std::string Opening_remark(const Project& project, const Session& session, Platf
         if (Is_path_of_another_system(path, platform.StartFolder))
             remark += ", a path of another system: use Save Project As";
     }
-    for (const std::string& compiler : Compilers_started(project))
-        remark += (remark.empty() ? "" : "; ") + ("saving starts the compiler " + compiler);
+    if (project.VTPCompile)
+        Add_remark(remark, "Save VTP data starts " + Compiler_path(project.VTPFileName));
+    if (project.LWMCompile)
+        Add_remark(remark, "Save LWM data starts " + Compiler_path(project.LWMFileName));
     return remark;
 }
 
@@ -116,6 +110,7 @@ std::optional<std::string> Choose_project_to_open(Platform& platform) {
 
 void Take_over(const std::string& path, Project& project, Session& session, Messages& messages,
                const ShowImage& show_image) {
+    ++session.Opened.Opening;
     session.Opened.Path = path;
     session.Opened.Folder = Folder_part(path);
     if (project.BackgroundLoaded) Load_background_file(project, session, messages, show_image);
@@ -145,14 +140,17 @@ std::string Open_project(const std::string& path, Document& document, Session& s
     }
     const auto reading = document.Do(step, [&](Project& project) {
         auto read = Read_project_file(path, project, platform.files);
-        if (read.IsRead) Take_over(path, project, session, platform.messages, show_image);
+        if (read.IsRead) {
+            Take_over(path, project, session, platform.messages, show_image);
+            document.Mark_saved();
+        }
         return read;
     });
     std::string status = Status_line(path, reading);
     if (!reading.IsRead) return status;
-    document.Mark_saved();
     const std::string remark = Opening_remark(document.Now(), session, platform);
-    return status + (status.empty() || remark.empty() ? "" : "; ") + remark;
+    if (!remark.empty()) Add_remark(status, remark);
+    return status;
 }
 
 bool May_exit(const Session& session, Messages& messages) {

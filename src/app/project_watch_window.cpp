@@ -17,8 +17,9 @@ void ProjectWatch::Watch(const QString& path) {
     if (!watched.isEmpty()) watcher_.removePaths(watched);
     path_ = path;
     state_ = State_now();
-    if (!state_.IsThere) return;
-    watcher_.addPaths({path_, QFileInfo(path_).absolutePath()});
+    if (path_.isEmpty()) return;
+    watcher_.addPath(QFileInfo(path_).absolutePath());
+    if (state_.IsThere) watcher_.addPath(path_);
 }
 
 ProjectWatch::FileState ProjectWatch::State_now() const {

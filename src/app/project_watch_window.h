@@ -14,6 +14,7 @@ class ProjectWatch : public QObject {
 
     // From now on watches this file as it is now; an empty path: none.
     void Watch(const QString& path);
+    const QString& Watched() const { return path_; }
 
   Q_SIGNALS:
     void Changed(const QString& path);   // its content may be another's

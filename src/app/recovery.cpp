@@ -48,7 +48,7 @@ LostWorks Recovery::Find_lost() {
         if (reading.State == RecoveryFileState::Whole)
             lost.Found.push_back({std::move(slot), std::move(reading.Unsaved)});
         else if (reading.State == RecoveryFileState::Newer)
-            lost.Complaints.push_back(slot.File + " is of a newer Tidemark");
+            lost.Complaints.push_back(slot.File + " was written by a newer version of Tidemark");
         else
             lost.Complaints.push_back(Set_aside(slot.File));
     }
@@ -102,7 +102,11 @@ FileResult Recovery::Tend(const std::string& project_path, const Project& projec
                           std::string_view time, Moment now) {
     const auto step = schedule_.Step_at(now);
     if (!step) return FileResult::Done();
-    if (step == RecoveryStep::Remove) return Remove();
+    if (step == RecoveryStep::Remove) {
+        FileResult removed = Remove();
+        if (!removed) schedule_.Removal_failed(now);
+        return removed;
+    }
     return Write(project_path, project, time, now);
 }
 
@@ -123,8 +127,9 @@ FileResult Recovery::Write_file(const std::string& project_path, const Project& 
 }
 
 FileResult Recovery::Remove() {
-    schedule_.Removed();
-    return slot_.File.empty() ? FileResult::Done() : Remove_file(slot_.File, files_);
+    FileResult removed = slot_.File.empty() ? FileResult::Done() : Remove_file(slot_.File, files_);
+    if (removed) schedule_.Removed();
+    return removed;
 }
 
 }  // namespace tidemark

@@ -64,8 +64,8 @@ class Recovery {
     }
     std::optional<Moment> Next() const { return schedule_.Next(); }
 
-    // Writes the project or removes what was written, if that is due. A failure says why; writing
-    // is tried again after the pause, removing at the next change.
+    // Writes the project or removes what was written, if that is due. A failure says why; it is
+    // tried again after the pause.
     FileResult Tend(const std::string& project_path, const Project& project, std::string_view time,
                     Moment now);
 

@@ -21,9 +21,8 @@ std::string Lost_work_text(const LostWork& lost) {
            "\nIt has " + Counted(lost.Points(), "point") + ", " +
            Counted(lost.Polygons(), "polygon") + " and " +
            Counted(lost.ClearedCells(), "cleared cell") +
-           ".\n\nRecover goes on with it, Discard removes it for good, Later asks again at the "
-           "next "
-           "start.";
+           ".\n\nRecover goes on with it, Discard removes it for good, "
+           "Later asks again at the next start.";
 }
 
 void Recover(LostWork& lost, Recovery& recovery, Document& document, Session& session,

@@ -35,19 +35,26 @@ Answer Ask_about(const LostWork& lost, QWidget* owner) {
 }  // namespace
 
 RecoveryKeeper::RecoveryKeeper(const std::string& folder, const Document& document,
-                               const Session& session, Platform& platform, QObject* parent)
-    : QObject(parent),
-      recovery_(folder, platform.files),
-      document_(document),
-      session_(session),
-      platform_(platform) {
+                               Platform& platform, QObject* parent)
+    : QObject(parent), recovery_(folder, platform.files), document_(document), platform_(platform) {
     timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &RecoveryKeeper::Tend);
 }
 
+// Recovered work that is undone can still be redone; nobody has given it up.
+bool RecoveryKeeper::Holds_undone_recovery() const {
+    return was_recovered_ && !document_.Differs_from_saved();
+}
+
 void RecoveryKeeper::Notice() {
-    recovery_.Changed(document_.State(), document_.Differs_from_saved(), Clock::now());
+    if (!Holds_undone_recovery())
+        recovery_.Changed(document_.State(), document_.Differs_from_saved(), Clock::now());
     Set_timer();
+}
+
+void RecoveryKeeper::Notice_saved() {
+    was_recovered_ = false;
+    Notice();
 }
 
 void RecoveryKeeper::Set_timer() {
@@ -58,26 +65,28 @@ void RecoveryKeeper::Set_timer() {
 }
 
 void RecoveryKeeper::Tend() {
-    Complain_once(recovery_.Tend(session_.Opened.Path, document_.Settled(),
+    Complain_once(recovery_.Tend(document_.Settled_opened().Path, document_.Settled(),
                                  platform_.clock.Now_text(), Clock::now()));
     Set_timer();
 }
 
 void RecoveryKeeper::Write_now() {
     if (document_.Differs_from_saved())
-        recovery_.Write(session_.Opened.Path, document_.Settled(), platform_.clock.Now_text(),
-                        Clock::now());
+        recovery_.Write(document_.Settled_opened().Path, document_.Settled(),
+                        platform_.clock.Now_text(), Clock::now());
 }
 
-void RecoveryKeeper::Remove() {
+void RecoveryKeeper::End() {
     timer_.stop();
-    Complain_once(recovery_.Remove());
+    if (!Holds_undone_recovery()) recovery_.Remove();
 }
 
 void RecoveryKeeper::Complain_once(const FileResult& result) {
     if (result || has_complained_) return;
     has_complained_ = true;
-    Q_EMIT Remarked("Unsaved work cannot be kept for recovery: " + To_qt(result.Reason()));
+    Q_EMIT Remarked("Recovery: unsaved work cannot be " +
+                    QString(document_.Differs_from_saved() ? "kept: " : "removed: ") +
+                    To_qt(result.Reason()));
 }
 
 void RecoveryKeeper::Offer_lost_work(QWidget* owner,
@@ -90,6 +99,7 @@ void RecoveryKeeper::Offer_lost_work(QWidget* owner,
             if (const FileResult discarded = recovery_.Discard(work); !discarded)
                 Q_EMIT Remarked("Recovery: " + To_qt(discarded.Reason()));
         if (answer != Answer::Recover) continue;
+        was_recovered_ = true;
         recover(work);
         Notice();
         return;

@@ -18,11 +18,13 @@ class RecoveryKeeper : public QObject {
 
   public:
     // `folder` is where the work is kept (State_folder).
-    RecoveryKeeper(const std::string& folder, const Document& document, const Session& session,
-                   Platform& platform, QObject* parent = nullptr);
+    RecoveryKeeper(const std::string& folder, const Document& document, Platform& platform,
+                   QObject* parent = nullptr);
 
     // To be called whenever the project or what is saved of it has changed.
     void Notice();
+    // To be called when the project has been saved.
+    void Notice_saved();
 
     // Asks about each lost work that there is, in a box over `owner`, until one is recovered; the
     // others stay for another time. `recover` makes one the project.
@@ -31,8 +33,9 @@ class RecoveryKeeper : public QObject {
     // Writes what is not saved at once: the program is about to be ended from outside.
     void Write_now();
 
-    // At an orderly exit: nothing of this editor is left to be recovered.
-    void Remove();
+    // At an orderly exit: nothing of this editor is left to be recovered, but for work that was
+    // recovered, then undone, and never saved.
+    void End();
 
     Recovery& Kept() { return recovery_; }
 
@@ -44,13 +47,14 @@ class RecoveryKeeper : public QObject {
 
     void Tend();
     void Set_timer();
+    bool Holds_undone_recovery() const;
     void Complain_once(const FileResult& result);
 
     Recovery recovery_;
     const Document& document_;
-    const Session& session_;
     Platform& platform_;
     QTimer timer_;
+    bool was_recovered_ = false;  // what is kept, and not saved since
     bool has_complained_ = false;
 };
 

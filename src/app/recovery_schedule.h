@@ -32,6 +32,7 @@ class RecoverySchedule {
     // what another has written of a state that is not saved is here.
     void Written(bool successfully, Moment now);
     void Removed() { written_ = std::nullopt; }
+    void Removal_failed(Moment now) { removal_failed_at_ = now; }
     void Taken_over(std::uint64_t state) { unsaved_ = written_ = state; }
 
   private:
@@ -39,6 +40,7 @@ class RecoverySchedule {
 
     std::optional<std::uint64_t> unsaved_, written_;  // states
     Moment changed_at_, tried_at_;
+    std::optional<Moment> removal_failed_at_;  // since the last change
     bool was_tried_ = false;
 };
 

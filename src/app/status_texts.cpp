@@ -9,7 +9,9 @@ namespace {
 std::string Count_text(const std::string& what, int count, int most) {
     const bool is_nearly_full = 10 * count >= 9 * most;
     return what + " " + std::to_string(count) + "/" + std::to_string(most) +
-           (count >= most ? " (full)" : is_nearly_full ? " (nearly full)" : "");
+           (count >= most    ? " (full)"
+            : is_nearly_full ? " (nearly full)"
+                             : "");
 }
 
 VTPPlace Cursor_place(const Session& session) {
@@ -36,8 +38,8 @@ std::string Distance_text(const Project& project, const Session& session) {
     const int point = session.Panel.SelectedPoint + 1;
     if (point < 1 || point > project.VTPCount || !Has_scale(project)) return "";
     const VTPPlace from{project.VTPPoint(point, 0), project.VTPPoint(point, 1)};
-    return Leg_text(Leg_between(Position_of(project, from),
-                                Position_of(project, Cursor_place(session))));
+    return Leg_text(
+        Leg_between(Position_of(project, from), Position_of(project, Cursor_place(session))));
 }
 
 }  // namespace tidemark

@@ -154,8 +154,7 @@ void TidemarkMain::Wire_status_panel() {
     });
     connect(status_, &Status::RefreshButton_Click, this, &TidemarkMain::Refresh_Graphics);
     connect(status_, &Status::Graphics_outdated, this, &TidemarkMain::Refresh_Graphics);
-    connect(&status_->LWM(), &LWMFrame::Remarked, statusBar(),
-            [this](const QString& text) { statusBar()->showMessage(text); });
+    connect(&status_->LWM(), &LWMFrame::Remarked, this, &TidemarkMain::Remark);
 }
 
 // The two windows side by side, on the screen whatever its size.
@@ -188,15 +187,12 @@ void TidemarkMain::Open(const QString& path) {
     const std::string status =
         Open_project(Path_from_qt(path), document_, session_, platform_, Screen().Show_image);
     Say(status);
-    Watch_project();
-    Notice_state();
 }
 
 void TidemarkMain::FileSave_Click() {
     watch_->Watch({});  // our own writing is no other program's
-    Save_project(document_, session_, platform_);
-    Watch_project();
-    Notice_state();
+    const auto watch_again = qScopeGuard([this] { Watch_project(); });
+    if (Save_project(document_, session_, platform_) && recovery_) recovery_->Notice_saved();
     Refresh_Graphics();
 }
 
@@ -265,10 +261,18 @@ void TidemarkMain::HelpAbout_Click() {
 }
 
 void TidemarkMain::closeEvent(QCloseEvent* event) {
-    event->setAccepted(is_ended_from_outside_ || May_exit(session_, messages_));
+    event->setAccepted(is_session_ending_ || May_exit(session_, messages_));
     if (!event->isAccepted()) return;
     status_->hide();
-    if (recovery_ && !is_ended_from_outside_) recovery_->Remove();
+    if (recovery_ && is_session_ending_) recovery_->Write_now();
+    if (recovery_ && !is_session_ending_) recovery_->End();
+}
+
+// A menu that the pointer passes has nothing to say, and must not wipe what stands there.
+bool TidemarkMain::event(QEvent* event) {
+    const bool is_empty_tip =
+        event->type() == QEvent::StatusTip && static_cast<QStatusTipEvent*>(event)->tip().isEmpty();
+    return is_empty_tip || QMainWindow::event(event);
 }
 
 namespace {
@@ -296,6 +300,7 @@ void TidemarkMain::dropEvent(QDropEvent* event) {
     // Later, so that the program it was dragged from does not wait for the boxes that may come up.
     // A slip of the hand on the way to another window is not a wish to lose anything.
     QTimer::singleShot(0, this, [this, path] {
+        if (QApplication::activeModalWidget()) return;  // it has come up meanwhile
         if (May_clear_project(session_, messages_)) Open(path);
     });
 }

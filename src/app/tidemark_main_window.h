@@ -45,6 +45,7 @@ class TidemarkMain : public QMainWindow {
     const Session& Current_session() const { return session_; }
 
   protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -96,7 +97,7 @@ class TidemarkMain : public QMainWindow {
     void EditButton_Click();
     void Show_project();
     void Show_title();
-    void Show_picture();
+    bool Show_picture();
     void Refresh_Graphics();
 
     MapScreen Screen();
@@ -106,6 +107,8 @@ class TidemarkMain : public QMainWindow {
     void Notice_state();
     void Watch_project();
     void Say(const std::string& text);
+    void Remark(const QString& text);
+    void Session_ends();
     void Offer_lost_work();
     void End_from_outside(int signals);
     void Run_after_save(const AfterSaveTask& task);
@@ -126,13 +129,15 @@ class TidemarkMain : public QMainWindow {
     ToolBar* tool_bar_;
     ProjectWatch* watch_;
     StatusLine* status_line_;
-    RecoveryKeeper* recovery_ = nullptr;  // null: nothing is kept
-    bool is_ended_from_outside_ = false;
+    bool picture_is_gone_ = false;    // that the step last shown wants
+    bool is_session_ending_ = false;  // of the desktop
+    QString remark_;                  // on the polygon added last
     // Made when they are first used, so that start-up does not wait for them; kept from then on.
     EditPoint* edit_point_ = nullptr;
     BGproperties* background_properties_ = nullptr;
     CellCalculator* calculator_ = nullptr;
     bool redrawing_ = false;
+    std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };
 
 }  // namespace tidemark

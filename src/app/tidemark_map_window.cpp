@@ -97,7 +97,8 @@ void TidemarkMain::EditButton_Click() {
 
 void TidemarkMain::Travel(void (Document::*where)(), const char* said, const std::string& step) {
     (document_.*where)();
-    statusBar()->showMessage(said + To_qt(step));
+    Say(said + step +
+        (picture_is_gone_ ? "; its background picture cannot be shown any more" : ""));
 }
 
 EditPoint& TidemarkMain::Edit_point_dialog() {
@@ -124,7 +125,7 @@ void TidemarkMain::Show_project() {
     entries_.FileSave->setEnabled(opened.FileSave);
     entries_.LWMsave->setEnabled(session_.Panel.LWMsave);
     entries_.VTPsave->setEnabled(session_.Panel.VTPsave);
-    Show_picture();
+    picture_is_gone_ = !Show_picture();
     entries_.BackgroundProperties->setEnabled(!opened.Picture.empty());
     tool_bar_->Show_history(document_);
     status_line_->Show_counts(document_.Now());
@@ -141,13 +142,17 @@ void TidemarkMain::Show_title() {
 }
 
 // Only undoing and redoing leave another picture on the screen than the session's.
-void TidemarkMain::Show_picture() {
+// False when that one is gone meanwhile; the other then stays.
+bool TidemarkMain::Show_picture() {
     std::string& picture = session_.Opened.Picture;
-    if (picture == map_->Shown_file()) return;
-    if (picture.empty())
+    if (picture == map_->Shown_file()) return true;
+    if (picture.empty()) {
         map_->Show_nothing();
-    else if (!map_->Show_image(picture))
-        picture = map_->Shown_file();  // it has been moved away meanwhile
+        return true;
+    }
+    const bool is_shown = map_->Show_image(picture);
+    if (!is_shown) picture = map_->Shown_file();
+    return is_shown;
 }
 
 // A box that comes up in the middle of a redraw lets other events through, which may ask for

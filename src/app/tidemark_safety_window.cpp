@@ -1,5 +1,5 @@
 // What the main window does so that no work is lost.
-#include <QGuiApplication>
+#include <QApplication>
 #include <QSessionManager>
 #include <QSocketNotifier>
 #include <QStatusBar>
@@ -14,8 +14,8 @@
 namespace tidemark {
 
 void TidemarkMain::Keep_work_in(const std::string& folder) {
-    recovery_ = new RecoveryKeeper(folder, document_, session_, platform_, this);
-    connect(recovery_, &RecoveryKeeper::Remarked, this,
+    recovery_ = std::make_unique<RecoveryKeeper>(folder, document_, platform_);
+    connect(recovery_.get(), &RecoveryKeeper::Remarked, this,
             [this](const QString& text) { Say(From_qt(text)); });
     QTimer::singleShot(0, this, &TidemarkMain::Offer_lost_work);
     if (const int signals = Pipe_of_ending_signals(); signals >= 0) {
@@ -23,11 +23,16 @@ void TidemarkMain::Keep_work_in(const std::string& folder) {
         connect(notifier, &QSocketNotifier::activated, this,
                 [this, signals] { End_from_outside(signals); });
     }
-    // The desktop's session ends; it closes the windows afterwards, and nobody is there to answer.
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
-        recovery_->Write_now();
-        is_ended_from_outside_ = true;
-    });
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &TidemarkMain::Session_ends);
+}
+
+// The desktop closes the windows next, and nobody is there to answer; unless the user thinks better
+// of it, which the next command or a minute without an end tells.
+void TidemarkMain::Session_ends() {
+    constexpr int long_enough = 60000;  // milliseconds
+    recovery_->Write_now();
+    is_session_ending_ = true;
+    QTimer::singleShot(long_enough, this, [this] { is_session_ending_ = false; });
 }
 
 void TidemarkMain::Wire_watch() {
@@ -50,13 +55,28 @@ void TidemarkMain::Say(const std::string& text) {
     statusBar()->showMessage(To_qt(text));
 }
 
+// An empty remark takes back the one before, and nothing else that was said since.
+void TidemarkMain::Remark(const QString& text) {
+    if (!text.isEmpty() || statusBar()->currentMessage() == remark_) statusBar()->showMessage(text);
+    remark_ = text;
+}
+
 void TidemarkMain::Notice_state() {
+    is_session_ending_ = false;
+    if (watch_->Watched() != To_qt(Save_path(document_.Now(), session_))) Watch_project();
     if (recovery_) recovery_->Notice();
 }
 
+// Not while a box is up, which may belong to a step in progress.
 void TidemarkMain::Offer_lost_work() {
+    constexpr int later = 100;  // milliseconds
+    if (QApplication::activeModalWidget() || document_.Is_in_step()) {
+        QTimer::singleShot(later, this, &TidemarkMain::Offer_lost_work);
+        return;
+    }
     recovery_->Offer_lost_work(this, [this](LostWork& lost) {
         Recover(lost, recovery_->Kept(), document_, session_, platform_, Screen().Show_image);
+        Say(Opening_remark(document_.Now(), session_, platform_));
     });
 }
 

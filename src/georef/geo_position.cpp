@@ -42,8 +42,8 @@ std::string Seconds_text(double degrees, char positive, char negative) {
 }
 
 Int16 Unit_at(double unit) {
-    return static_cast<int>(std::round(
-        std::clamp(unit, double{Int16::Lowest}, double{Int16::Highest})));
+    return static_cast<int>(
+        std::round(std::clamp(unit, double{Int16::Lowest}, double{Int16::Highest})));
 }
 
 std::string_view Trimmed(std::string_view text) {

@@ -33,9 +33,9 @@ std::string Position_text(GeoPosition position);
 std::string Latitude_text(double degrees);
 std::string Longitude_text(double degrees);
 
-// The value of "degrees:minutes:seconds", as the cell calculator reads it, with one of the two letters
-// before or behind it; without a letter it is positive. `letters` are that of positive and that of
-// negative values. Nothing when the text has another form or is beyond `most` degrees.
+// The value of "degrees:minutes:seconds", as the cell calculator reads it, with one of the two
+// letters before or behind it; without a letter it is positive. `letters` are that of positive and
+// that of negative values. Nothing when the text has another form or is beyond `most` degrees.
 std::optional<double> Degrees_from(std::string_view text, std::string_view letters, double most);
 
 // From one position to another along the shortest way on a sphere of the Earth's mean radius

@@ -7,7 +7,8 @@ namespace tidemark {
 
 namespace {
 
-// A number that stands in the text; nothing when it does not begin with one or does not fit 16 bits.
+// A number that stands in the text; nothing when it does not begin with one or does not fit 16
+// bits.
 std::optional<Int16> Number_in(const std::string& text) {
     if (text.find_first_of("0123456789") == text.npos) return std::nullopt;
     try {
@@ -30,8 +31,11 @@ int Cell_of(Int16 coordinate) {
 
 GoToTexts Texts_of_place(const Project& project, VTPPlace place) {
     const GeoPosition position = Position_of(project, place);
-    return {std::to_string(Cell_of(place.X)), std::to_string(Cell_of(place.Y)), Int_text(place.X),
-            Int_text(place.Y), Latitude_text(position.Latitude),
+    return {std::to_string(Cell_of(place.X)),
+            std::to_string(Cell_of(place.Y)),
+            Int_text(place.X),
+            Int_text(place.Y),
+            Latitude_text(position.Latitude),
             Longitude_text(position.Longitude)};
 }
 

@@ -20,8 +20,8 @@ enum class GoToWay { Cell, VTP, Degrees };
 // What all fields read for a place.
 GoToTexts Texts_of_place(const Project& project, VTPPlace place);
 
-// The place that the two fields of one way tell: the middle of the cell; the unit; the nearest unit.
-// Nothing when they hold no such thing.
+// The place that the two fields of one way tell: the middle of the cell; the unit; the nearest
+// unit. Nothing when they hold no such thing.
 std::optional<VTPPlace> Place_told(const Project& project, const GoToTexts& texts, GoToWay way);
 
 // Why the map cannot show a place, in words; empty when it can.

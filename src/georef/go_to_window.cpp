@@ -25,8 +25,8 @@ constexpr std::array<Field, 6> Fields{{
     {"GoToLongitude", "Longitude"},
 }};
 
-constexpr std::array<const char*, 3> RowCaptions{"LOD13 column and row:", "VTP X and Y:",
-                                                 "Latitude and longitude:"};
+constexpr std::array<const char*, 3> RowCaptions{
+    "LOD13 column and row:", "VTP X and Y:", "Latitude and longitude:"};
 
 }  // namespace
 
@@ -48,8 +48,7 @@ void GoTo::Lay_out() {
         for (int column = 0; column < 2; ++column)
             grid->addWidget(fields_[static_cast<std::size_t>(2 * row + column)], row, column + 1);
     }
-    auto* const buttons =
-        new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     OkButton_ = buttons->button(QDialogButtonBox::Ok);
     OkButton_->setObjectName("OkButton");
     connect(buttons, &QDialogButtonBox::accepted, this, &GoTo::accept);

@@ -30,8 +30,11 @@ class Document {
     ~Document();
 
     const Project& Now() const { return *now_; }
-    // The project as the last step left it, while another one is in progress.
+    // The project, and the names it goes by, as the last step left them, while another one is in
+    // progress.
     const Project& Settled() const { return *settled_; }
+    const OpenedState& Settled_opened() const { return settled_opened_; }
+    bool Is_in_step() const { return depth_ > 0; }
 
     // The number of the state that the project is in; every other state it was or will be in has
     // another one.
@@ -50,7 +53,7 @@ class Document {
     }
 
     // The same for what is no step of its own: a name that the project is saved under, a picture
-    // that is loaded again. It stays when steps are undone.
+    // that is loaded again. It stays when steps are undone. With a step inside, it is one.
     template <class Change>
     auto Settle(const Change& change) {
         return Run(Kind::Remark, "", change);
@@ -66,7 +69,8 @@ class Document {
     std::string What_undo() const { return done_.empty() ? "" : done_.back().Name; }
     std::string What_redo() const { return undone_.empty() ? "" : undone_.back().Name; }
 
-    // The project is what its file holds now. Clears DataChanged.
+    // The project is what its file holds now, or will be so at the end of the step in progress.
+    // Clears DataChanged.
     void Mark_saved();
     // Whether the project differs from what its file holds.
     bool Differs_from_saved() const { return !(*settled_ == *saved_); }
@@ -82,8 +86,14 @@ class Document {
         PanelState Panel;
         Int16 PointInCellX, PointInCellY;
     };
+    // The names around a step that has changed them, as they were when it was last come to or left.
+    struct Names {
+        std::string ProjectFile;
+        OpenedState Opened;
+    };
     struct Renaming {
-        OpenedState Before, After;
+        Names Before, After;
+        bool IsOpening;  // another project: all names; otherwise it is the picture alone
     };
     struct Step {
         std::string Name;
@@ -125,20 +135,27 @@ class Document {
         }
     }
 
-    void Record(Kind kind, std::string name, const Session& before);
+    void Record(const Session& before);
+    void Finish_step();
+    std::unique_ptr<Renaming> Renamed_since(const Session& before) const;
     void Drop_oldest();
     Circumstances Circumstances_now() const;
     void Put_back(const Circumstances& circumstances);
-    void Rename(const OpenedState& from, const OpenedState& to);
-    void Finish_travel();
+    void Exchange_names(const Renaming& renamed, Names& left, const Names& come_to);
+    template <class Change>
+    void Travel(const Change& change);
 
     Session& session_;
     const std::size_t most_bytes_;
     std::unique_ptr<Project> now_, settled_, saved_;
+    OpenedState settled_opened_;
     std::deque<Step> done_, undone_;  // undone_.back() is the next to be redone
     std::size_t bytes_ = 0;           // of both
     std::uint64_t state_ = 0;
     int depth_ = 0;  // of the calls of Do that are in progress
+    // Of the outermost of them, so far.
+    bool is_step_ = false, is_saved_by_step_ = false;
+    std::string step_name_;
     std::function<void()> announce_ = [] {};
 };
 

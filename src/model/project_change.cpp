@@ -126,8 +126,8 @@ void Replace(Project& project, int at, const std::vector<Record>& old,
     Entries::Set_count(project, next - 1);
 }
 
-// Points at every value of a project but the entries of its tables, their counts and the place that
-// the polygon builder looked at, in the order of the project file.
+// Points at every value of a project but the entries of its tables, their counts and what a change
+// leaves out, in the order of the project file.
 template <class... Value>
 struct ValuePointers {
     using Pointer = std::variant<Value*...>;
@@ -135,7 +135,7 @@ struct ValuePointers {
 
     template <class T>
     void operator()(std::string_view name, T& value) {
-        if (!name.starts_with("PointInCell")) Values.push_back(&value);
+        if (!name.starts_with("PointInCell") && name != "ProjectFile") Values.push_back(&value);
     }
     void Count(const char*, const Int16&, int) {}
 };
@@ -251,8 +251,8 @@ std::size_t ProjectChange::Bytes() const {
 
 bool operator==(const Project& a, const Project& b) {
     bool same = a.PointInCellX == b.PointInCellX && a.PointInCellY == b.PointInCellY &&
-                Same_entries<Points>(a, b) && Same_entries<ClearedCells>(a, b) &&
-                Same_entries<Polygons>(a, b);
+                a.ProjectFile == b.ProjectFile && Same_entries<Points>(a, b) &&
+                Same_entries<ClearedCells>(a, b) && Same_entries<Polygons>(a, b);
     if (same) For_each_changed_value(a, b, [&same](auto&&...) { same = false; });
     return same;
 }

@@ -49,8 +49,9 @@ struct ValueChange {
 
 class ProjectChange {
   public:
-    // Takes `before` to `after`. The position that the polygon builder looked at last is left out
-    // (PointInCellX, PointInCellY): it is a by-product and no work of the user's.
+    // Takes `before` to `after`. Left out are the position that the polygon builder looked at last
+    // (PointInCellX, PointInCellY), which is a by-product and no work of the user's, and
+    // ProjectFile, which saving under another name changes between the steps.
     ProjectChange(const Project& before, const Project& after);
 
     bool Is_empty() const;

@@ -23,6 +23,7 @@ struct PanelState {
 
 // Under which name the project is worked on, and over which picture.
 struct OpenedState {
+    int Opening = 0;        // counts the projects that were opened; another number, another project
     std::string Path;       // that it was opened or saved under, which the title shows; empty: none
     std::string Folder;     // that the opened project lies in, with its last separator
     std::string Picture;    // path of the background image that is on the screen; empty: none

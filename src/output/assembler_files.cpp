@@ -45,7 +45,7 @@ std::optional<std::string> VTP_refusal(const Project& project) {
 bool May_replace(const std::string& path, Messages& messages, Files& files) {
     return !Is_foreign_file(path, files) ||
            Ask(messages, "Tidemark - Save Warning",
-               path + " is not an assembler file of Tidemark's.\nReplace it all the same?");
+               path + " was not written by Tidemark.\nReplace it all the same?");
 }
 
 bool Write_file(const std::string& path, std::string_view bytes, Messages& messages, Files& files) {

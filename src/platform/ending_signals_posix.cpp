@@ -29,9 +29,13 @@ int Pipe_of_ending_signals() {
     writing_end = ends[1];
     struct sigaction action {};
     action.sa_handler = Put_into_pipe;
-    action.sa_flags = SA_RESTART;
-    for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT})
-        ::sigaction(signal, &action, nullptr);
+    action.sa_flags = SA_RESTART | SA_RESETHAND;  // a second one ends a program that hangs
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT}) {
+        struct sigaction before {};
+        ::sigaction(signal, nullptr, &before);
+        // Who started the program wants it to outlive this one (nohup).
+        if (before.sa_handler != SIG_IGN) ::sigaction(signal, &action, nullptr);
+    }
     return ends[0];
 }
 

@@ -95,6 +95,7 @@ void QtPatience::Let_pass(int milliseconds, QEventLoop::ProcessEventsFlags event
     });
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec(events);
+    if (!waiting_ && !to_close_.isEmpty()) QTimer::singleShot(0, this, &QtPatience::Close_windows);
 }
 
 void QtPatience::Cancel() {

@@ -29,9 +29,9 @@ TEST(LayersTest, WindowsNameNoProjectThatTheyCouldChange) {
         ++windows;
         std::ifstream file(entry.path());
         for (std::string line; std::getline(file, line);) {
-            std::smatch found;
-            EXPECT_TRUE(!std::regex_search(line, found, changeable) || found[2].matched)
-                << entry.path() << ": " << line;
+            for (std::sregex_iterator found(line.begin(), line.end(), changeable), end;
+                 found != end; ++found)
+                EXPECT_TRUE((*found)[2].matched) << entry.path() << ": " << line;
         }
     }
     EXPECT_GT(windows, 30);

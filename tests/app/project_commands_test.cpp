@@ -66,8 +66,8 @@ TEST(ProjectCommandsTest, AFileReplacesTheProjectUnlessItIsRefusedOrGone) {
         return status + fake.messages.Said();
     };
     EXPECT_EQ(open("/moved/c.tdm", true),
-              "Save Project writes to /home/me/coast 1.tdm; saving starts the compiler BGLC.EXE; "
-              "saving starts the compiler C:\\Scenery\\BGLC.EXE");
+              "Save Project writes to /home/me/coast 1.tdm; Save VTP data starts BGLC.EXE; "
+              "Save LWM data starts C:\\Scenery\\BGLC.EXE");
     EXPECT_EQ(open("/maps/bad.tdm", false),
               "bad.tdm, line 3: AreaTopVTP does not fit -32768..32767: 70000");
     EXPECT_EQ(open("/maps/huge.tdm", false), "huge.tdm: File too large");

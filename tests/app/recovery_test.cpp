@@ -121,7 +121,7 @@ TEST_F(RecoveryTest, ADamagedFileIsSetAsideAndANewerOneLeftAlone) {
     EXPECT_EQ(Found(), "");
     Write_file(file, newer);
     for ([[maybe_unused]] const int twice : {1, 2})
-        EXPECT_EQ(Found(), file + " is of a newer Tidemark\n");
+        EXPECT_EQ(Found(), file + " was written by a newer version of Tidemark\n");
     Write_file(file, bytes);
     EXPECT_EQ(Found(), "then\n");
 }

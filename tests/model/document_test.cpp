@@ -187,7 +187,7 @@ TEST_F(DocumentTest, AnExceptionInTheMiddleOfAStepLeavesEverythingAsItWas) {
         EXPECT_EQ(Bytes_of(document.Now()), before);
         EXPECT_EQ(session.Panel, panel);
     }
-    EXPECT_EQ(announced, 0);
+    EXPECT_EQ(announced, 12) << "what the screen shows may be of the change that failed";
     EXPECT_EQ(document.History_bytes(), history);
 
     // Within a step, what fails is taken back alone.
@@ -224,8 +224,38 @@ TEST_F(DocumentTest, OnlyWhatAStepChangedItselfIsTakenBack) {
     document.Undo();
     document.Undo();
     EXPECT_EQ(document.Now().ProjectFile + session.Opened.Path, "");
+    document.Redo();
+    EXPECT_EQ(session.Opened.Path, "saved as") << "as it was left";
+    document.Undo();
     document.Do("nothing", [](Project&) {});
     EXPECT_TRUE(document.Can_redo()) << "what changed nothing is no step";
+}
+
+TEST_F(DocumentTest, AProjectKeepsTheNameThatItWasSavedUnder) {
+    const auto open = [&](const char* path, int content) {
+        document.Do("open", [&](Project& p) {
+            ++session.Opened.Opening;
+            p.BGLOD8X = content;
+            p.ProjectFile = session.Opened.Path = path;
+            document.Mark_saved();
+        });
+    };
+    open("a", 1);
+    document.Settle([&](Project& p) { p.ProjectFile = session.Opened.Path = "b"; });
+    open("b", 2);
+    for (int travel = 0; travel < 2; ++travel) document.Undo();
+    EXPECT_TRUE(document.Now() == Project());
+    for (int travel = 0; travel < 2; ++travel) document.Redo();
+    EXPECT_EQ(document.Now().ProjectFile + session.Opened.Path, "bb");
+    EXPECT_EQ(document.Now().BGLOD8X, 2);
+    EXPECT_FALSE(session.DataChanged);
+}
+
+TEST_F(DocumentTest, AStepWithinWhatIsNoneIsAStep) {
+    document.Settle([&](Project&) { document.Do("open", [](Project& p) { p.KillCount = 1; }); });
+    EXPECT_EQ(document.What_undo(), "open");
+    document.Undo();
+    EXPECT_EQ(document.Now().KillCount, 0);
 }
 
 TEST_F(DocumentTest, TheHistoryIsSmallAndDropsItsOldestSteps) {
