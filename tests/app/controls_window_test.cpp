@@ -266,7 +266,7 @@ TEST_F(ControlsTest, AnErrorOfAHandlerIsShownAndTheProgramGoesOn) {
     EXPECT_EQ(escaping_.Shown, QStringList("box It went wrong."));
     EXPECT_TRUE(scene.Window().Current_project() == before);
     QObject::disconnect(fault);
-    scene.Do("Picture2 left 400 300");
+    scene.Do("Picture2 left 280 300");
     EXPECT_EQ(scene.Window().Current_project().VTPCount, before.VTPCount + 1);
 }
 
@@ -303,7 +303,7 @@ TEST_F(ControlsTest, WhileTheCompilerRunsNothingElseIsDoneAndAfterwardsNothingIs
     QTimer::singleShot(50, &scene.Window(), [&] {
         EXPECT_EQ(status_bar.currentMessage(), "Waiting for BGLC.EXE to compile bay-LWM.asm");
         const QStringList before = scene.Seen();
-        for (const char* const step : {"TidemarkMain drop", "Picture2 left 400 300",
+        for (const char* const step : {"TidemarkMain drop", "Picture2 left 280 300",
                                        "NewSegment click", "TidemarkMain Ctrl+Z"})
             scene.Do(step);
         EXPECT_EQ(scene.Seen(), before);
