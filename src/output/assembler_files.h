@@ -1,6 +1,6 @@
 // Writing the two assembler files, with their refusals and messages.
 //
-// A file is replaced as a whole or not at all. A refusal or a failed write is told with Warn, a
+// A file is replaced as a whole or not at all. A refusal or a failed write is reported with Warn, a
 // failed write naming the file and the reason, and leaves an old file of that name as it was.
 #pragma once
 
