@@ -263,7 +263,7 @@ TEST_F(ControlsTest, AnErrorOfAHandlerIsShownAndTheProgramGoesOn) {
     const auto fault = QObject::connect(&refresh, &QPushButton::clicked,
                                         [] { throw std::runtime_error("It went wrong."); });
     EXPECT_NO_THROW(Click(refresh));
-    EXPECT_EQ(escaping_.Shown, QStringList("box It went wrong."));
+    EXPECT_EQ(escaping_.Shown.join('\n').toStdString(), "box It went wrong.");
     EXPECT_TRUE(scene.Window().Current_project() == before);
     QObject::disconnect(fault);
     scene.Do("Picture2 left 280 300");
@@ -281,7 +281,7 @@ TEST_F(ControlsTest, ABoxInTheMiddleOfARedrawDoesNotComeUpTwice) {
         QApplication::processEvents();
     };
     scene.Do("RefreshButton click");
-    EXPECT_EQ(escaping_.Shown.mid(boxes), QStringList("box Unknown case encountered."));
+    EXPECT_EQ(escaping_.Shown.mid(boxes).join('\n').toStdString(), "box Unknown case encountered.");
 }
 
 // Esc is the last thing the user does meanwhile.
@@ -306,14 +306,14 @@ TEST_F(ControlsTest, WhileTheCompilerRunsNothingElseIsDoneAndAfterwardsNothingIs
         for (const char* const step : {"TidemarkMain drop", "Picture2 left 280 300",
                                        "NewSegment click", "TidemarkMain Ctrl+Z"})
             scene.Do(step);
-        EXPECT_EQ(scene.Seen(), before);
+        EXPECT_EQ(scene.Seen().join('\n').toStdString(), before.join('\n').toStdString());
         scene.Do("Picture2 Esc");
     });
     save_with_compiler("exec /bin/sleep 1");
-    EXPECT_EQ(status_bar.currentMessage(), "bay-LWM.BGL was not copied.");
-    EXPECT_EQ(escaping_.Shown, QStringList());
+    EXPECT_EQ(status_bar.currentMessage().toStdString(), "bay-LWM.BGL was not copied.");
+    EXPECT_EQ(escaping_.Shown.join('\n').toStdString(), "");
     save_with_compiler("echo compiled > bay-LWM.BGL");
-    EXPECT_EQ(status_bar.currentMessage(), "");
+    EXPECT_EQ(status_bar.currentMessage().toStdString(), "");
     EXPECT_EQ(escaping_.Shown.size(), 1);
     EXPECT_EQ(File_content(folder_ / "to/bay-LWM.BGL"), "compiled\n");
 }
