@@ -1,5 +1,5 @@
 // Drives a fuzz target where libFuzzer is not there: first every file of the corpus folders as it
-// is, then inputs made from them by chance.
+// is, then inputs made from them at random.
 //
 //   <subject>_fuzz [--runs=N] [--seed=S] [folder or file...]
 //

@@ -5,11 +5,10 @@
 //   - has a point in every cell that it crosses, and each step that leaves a cell ends in the next
 //     cell east, south, west or north: none jumps a cell or goes through a corner;
 //   - crosses each cell edge at a right angle, in a step from the last unit but one of one cell
-//   (cell
-//     unit 254 or 1) to the second unit of the next (1 or 254). Unit 255 of a cell and unit 0 of
-//     the next are neighbours, not the same place, so a slanting step would cross them at two
-//     heights; a straight one crosses both at the same height, and the polygons of the two cells
-//     meet without a gap;
+//     (254 or 1) to the second unit of the next (1 or 254). Unit 255 of a cell and unit 0 of the
+//     next are neighbours, not the same place, so a slanting step would cross them at two heights;
+//     a straight one crosses both at the same height, and the polygons of the two cells meet
+//     without a gap;
 //   - has no other point on the outermost two units of a cell, so that a point is never on a
 //     cell's boundary, and never a corner, by accident. Only the two ends of a line that runs off
 //     the map are on the boundary, on the outermost unit of the map.

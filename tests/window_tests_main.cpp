@@ -1,6 +1,7 @@
 // Tests of the windows: real controls and real events, off screen.
-#include <QApplication>
 #include <gtest/gtest.h>
+
+#include "app/qt_application.h"
 
 #ifdef __SANITIZE_ADDRESS__
 // The leak check stumbles over the threads of Qt's image code as the program ends; it stays on for
@@ -13,7 +14,7 @@ extern "C" const char* __asan_default_options() {  // NOLINT: the sanitizer's ow
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication application(argc, argv);
+    tidemark::TidemarkApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -16,9 +16,8 @@ struct WalkFolders {
     QString Out;
 };
 
-// Plays on a main window that has just been opened; takes the tutorial's pictures on the way,
-// and joins them to strip.png.
-// Throws std::runtime_error when a window does not do what it should.
+// Plays on a main window that has just been opened; takes the tutorial's pictures on the way, and
+// joins them to strip.png. Throws std::runtime_error when a window does not do what it should.
 void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders);
 
 }  // namespace tidemark

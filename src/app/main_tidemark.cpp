@@ -1,4 +1,7 @@
 // tidemark: the editor.
+#include <cstdio>
+#include <cstdlib>
+
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QIcon>
@@ -19,11 +22,17 @@ QStringList Project_argument(int argc, char** argv) {
     parser.setApplicationDescription(
         "Draws coastlines, rivers, roads and land and water polygons over a map, as scenery for "
         "Flight Simulator 2002.");
-    parser.addHelpOption();
+    // The parser's own would bring "--help-all" along, for options of Qt.
+    const QCommandLineOption help({"h", "help"}, "Displays help on commandline options.");
+    parser.addOption(help);
     parser.addVersionOption();
     parser.addPositionalArgument("project", "The project file to open.", "[PROJECT.TDM]");
     parser.process(application);
-    if (parser.positionalArguments().size() > 1) parser.showHelp(2);
+    if (parser.isSet(help)) parser.showHelp();
+    if (parser.positionalArguments().size() > 1) {
+        std::fputs("tidemark: it opens one project at a time; see tidemark --help\n", stderr);
+        std::exit(2);
+    }
     return parser.positionalArguments();
 }
 

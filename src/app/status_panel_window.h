@@ -1,6 +1,7 @@
 // The Status panel: the tool window beside the map.
 #pragma once
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QWidget>
 
@@ -12,7 +13,7 @@
 namespace tidemark {
 
 // One column of frames: the drawing mode, the three lists, the two cursor positions and two
-// buttons. Closing it by its frame hides it.
+// buttons. On a low screen some of them share a row. Closing it by its frame hides it.
 class Status : public QWidget {
     Q_OBJECT
 
@@ -40,6 +41,8 @@ class Status : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void Fit_to_screen(QBoxLayout& column);
+
     DrawingModeFrame* drawing_mode_;
     VTPFrame* vtp_;
     LWMFrame* lwm_;

@@ -50,7 +50,7 @@ Angle Angle_of(const Halves& degrees, const Halves& minutes) {
             Spaced_value(minutes.After)};
 }
 
-// Tells of the texts that could not be split, and resets them.
+// Reports that a text could not be split, and resets it.
 bool Check_format(bool latitude_split, bool longitude_split, CalculatorTexts& texts,
                   Messages& messages) {
     if (latitude_split && longitude_split) return true;
@@ -65,9 +65,8 @@ Int16 Grid_index(double degrees, double degrees_to_a_cell) {
     return static_cast<int>(std::floor(degrees / degrees_to_a_cell + 1)) - 1;
 }
 
-}  // namespace
-
-std::optional<LOD8Cell> Calculate_cell(CalculatorTexts& texts, Messages& messages) {
+// Resets the text at fault.
+std::optional<LOD8Cell> Cell_of(CalculatorTexts& texts, Messages& messages) {
     const auto latitude_parts = Split(texts.Latitude);
     const auto longitude_parts = Split(texts.Longitude);
     if (!Check_format(latitude_parts.has_value(), longitude_parts.has_value(), texts, messages))
@@ -94,6 +93,14 @@ std::optional<LOD8Cell> Calculate_cell(CalculatorTexts& texts, Messages& message
     const double longitude = texts.EW == "W" ? -east.Decimal() : east.Decimal();
     return LOD8Cell{Grid_index(longitude + 180, LOD8DegreesEast),
                     Grid_index(180 - (latitude + 90), LOD8DegreesSouth)};
+}
+
+}  // namespace
+
+CalculatorResult Calculate_cell(const CalculatorTexts& texts, Messages& messages) {
+    CalculatorResult result{texts, std::nullopt};
+    result.Cell = Cell_of(result.Texts, messages);
+    return result;
 }
 
 std::optional<double> Angle_degrees(std::string_view text, double most) {

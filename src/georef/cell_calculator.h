@@ -13,7 +13,7 @@ namespace tidemark {
 inline constexpr std::string_view LatitudeTemplate = "00:00:00.0";
 inline constexpr std::string_view LongitudeTemplate = "000:00:00.0";
 
-// What stands in the calculator's controls.
+// What stands in the calculator's boxes.
 struct CalculatorTexts {
     std::string Latitude{LatitudeTemplate};
     std::string NS{"N"};
@@ -26,9 +26,14 @@ struct LOD8Cell {
     bool operator==(const LOD8Cell&) const = default;
 };
 
+struct CalculatorResult {
+    CalculatorTexts Texts;         // what the boxes hold afterwards
+    std::optional<LOD8Cell> Cell;  // nothing for bad input
+};
+
 // The cell of the texts' position; it is not limited to the world grid (90 S, 180 E gives 768,
-// 512). Bad input is told with Warn, resets the text at fault to its template and gives nothing.
-std::optional<LOD8Cell> Calculate_cell(CalculatorTexts& texts, Messages& messages);
+// 512). Bad input is reported with Warn and the text at fault reset to its template.
+CalculatorResult Calculate_cell(const CalculatorTexts& texts, Messages& messages);
 
 // The value of a text "degrees:minutes:seconds"; nothing when it has another form, is beyond `most`
 // degrees, or has more than 60 minutes or seconds.

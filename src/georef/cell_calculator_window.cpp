@@ -60,9 +60,10 @@ void CellCalculator::Lay_out() {
 }
 
 void CellCalculator::CalcButton_Click() {
-    CalculatorTexts texts{From_qt(CalcLatText_->text()), From_qt(NScombo_->currentText()),
-                          From_qt(CalcLonText_->text()), From_qt(EWcombo_->currentText())};
-    const auto cell = Calculate_cell(texts, messages_);
+    const auto [texts, cell] =
+        Calculate_cell({From_qt(CalcLatText_->text()), From_qt(NScombo_->currentText()),
+                        From_qt(CalcLonText_->text()), From_qt(EWcombo_->currentText())},
+                       messages_);
     CalcLatText_->setText(To_qt(texts.Latitude));
     CalcLonText_->setText(To_qt(texts.Longitude));
     if (!cell) return;

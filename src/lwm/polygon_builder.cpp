@@ -11,7 +11,7 @@ namespace tidemark {
 namespace {
 
 // Nothing when the text's number does not fit 16 bits.
-std::optional<Int16> Whole_metres(const std::string& text) {
+std::optional<Int16> Whole_metres(std::string_view text) {
     try {
         return Int_value(text);
     } catch (const Overflow&) {
@@ -19,14 +19,18 @@ std::optional<Int16> Whole_metres(const std::string& text) {
     }
 }
 
-// The height to store; the text becomes what the height box shall read. Nothing after a warning.
-std::optional<Int16> Take_height(HeightChoice choice, std::string& text, Messages& messages) {
-    if (choice == HeightChoice::Conform) return ConformsHeight;
+struct HeightResult {
+    std::string Text;             // what the height box holds afterwards
+    std::optional<Int16> Height;  // nothing when it was refused
+};
+
+HeightResult Take_height(HeightChoice choice, std::string_view text, Messages& messages) {
+    if (choice == HeightChoice::Conform) return {std::string(text), ConformsHeight};
     const std::optional<Int16> height = Whole_metres(text);
-    if (height) text = Int_text(*height);
-    if (height && *height >= 0 && *height <= MaxLWMHeight) return height;
+    const std::string shown = height ? Int_text(*height) : std::string(text);
+    if (height && *height >= 0 && *height <= MaxLWMHeight) return {shown, height};
     Warn(messages, "Height value must be in the range 0-10000");
-    return std::nullopt;
+    return {shown, std::nullopt};
 }
 
 // The click is strictly inside the bounding box.
@@ -133,9 +137,9 @@ bool Surrounds(const Outline& outline, CellPoint place) {
 }
 
 LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,
-                           HeightChoice choice, std::string height_text) {
-    const std::optional<Int16> height = Take_height(choice, height_text, messages);
-    LWMPolyResult result{std::move(height_text), false, ""};
+                           HeightChoice choice, std::string_view height_text) {
+    auto [text, height] = Take_height(choice, height_text, messages);
+    LWMPolyResult result{std::move(text), false, ""};
     if (!height) return result;
     const std::vector<Outline> candidates = Candidate_polygons(project, session, messages);
     if (candidates.empty()) return result;

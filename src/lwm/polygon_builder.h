@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "lwm/cell_edges.h"
@@ -31,10 +32,10 @@ struct LWMPolyResult {
 //
 // Throws Overflow, before anything is appended, for points too far away for 16-bit arithmetic.
 LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,
-                           HeightChoice choice, std::string height_text);
+                           HeightChoice choice, std::string_view height_text);
 
 // The candidate that surrounds the click best, numbered from 1: the only one, or of those whose
-// bounding box has the click strictly inside it the one whose vertices are nearest in the mean, and
+// bounding box has the click strictly inside it the one whose vertices are nearest on average, and
 // the first of equals. Nothing when no box has the click inside.
 std::optional<int> Best_candidate(const std::vector<Outline>& candidates, CellPoint click);
 

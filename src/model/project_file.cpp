@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <system_error>
 
 #include "model/encoding.h"
 #include "model/line_writer.h"

@@ -23,7 +23,7 @@ AfterSaveTask VTP_after_save(const Project& project);
 // Runs the task in its order and ends at the first failure, which it tells with Warn. Programs are
 // started without waiting for them; only a copy waits for the compiled file, in bounded time:
 //
-// - the compiler has failed: nothing is copied, and its status is told with Warn;
+// - the compiler has failed: nothing is copied, and its status is reported with Warn;
 // - the compiler has ended: the file is copied, or given up when it is not there shortly after;
 // - the compiler goes on and the file rests: it is copied after a quarter of a minute;
 // - the compiler goes on and there is no file, or it grows and grows: it is given up after a

@@ -11,8 +11,8 @@
 namespace tidemark {
 
 // The compiled file of `assembler_file` as it is there now, whatever the case of its name; nothing
-// when there is none. Nothing when the two names differ in their case at most: to
-// the compiler's own system they are one file.
+// when there is none, nor when the two names differ in their case at most: to the compiler's own
+// system they are one file.
 std::optional<std::string> Find_compiled_file(const std::string& assembler_file, Files& files);
 
 struct CompiledFile {

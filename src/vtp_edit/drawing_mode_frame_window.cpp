@@ -1,5 +1,6 @@
 #include "vtp_edit/drawing_mode_frame_window.h"
 
+#include <QAbstractItemView>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -30,6 +31,7 @@ DrawingModeFrame::DrawingModeFrame(QWidget* parent)
     : QGroupBox("Drawing Mode", parent), DrawModeCombo_(new ModeCombo) {
     DrawModeCombo_->setObjectName("DrawModeCombo");
     DrawModeCombo_->setAccessibleName("Drawing mode");
+    DrawModeCombo_->view()->setAccessibleName("Drawing modes");
     for (const DrawingMode& mode : DrawingModes) DrawModeCombo_->addItem(To_qt(mode.Item));
     DrawModeCombo_->setMaxVisibleItems(static_cast<int>(DrawingModes.size()));
     (new QVBoxLayout(this))->addWidget(DrawModeCombo_);

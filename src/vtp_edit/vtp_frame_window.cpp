@@ -52,15 +52,25 @@ void VTPFrame::Lay_out() {
     connect(edit, &QPushButton::clicked, this, &VTPFrame::EditButton_clicked);
 }
 
+void VTPFrame::Save_height() {
+    auto& grid = static_cast<QGridLayout&>(*layout());
+    const auto put = [&](const char* name, int row, int column, int columns) {
+        grid.addWidget(findChild<QWidget*>(name), row, column, 1, columns);
+    };
+    put("VTPlistbox", 0, 0, 3);
+    put("ChangeButton", 2, 2, 1);
+    put("ReverseButton", 4, 0, 2);
+    put("EditButton", 4, 2, 1);
+}
+
 void VTPFrame::Start_new_segment() {
     NewSegment_->setChecked(true);
 }
 
 std::optional<Int16> VTPFrame::Typed_width() {
-    std::string text = From_qt(VTPwidthText_->text());
-    const std::optional<Int16> width = Take_width(text, messages_);
-    VTPwidthText_->setText(To_qt(text));
-    return width;
+    const WidthResult result = Take_width(From_qt(VTPwidthText_->text()), messages_);
+    VTPwidthText_->setText(To_qt(result.Text));
+    return result.Width;
 }
 
 void VTPFrame::Add_VTP_Point() {

@@ -19,6 +19,9 @@ class VTPFrame : public QGroupBox {
   public:
     VTPFrame(Document& document, Session& session, Messages& messages, QWidget* parent = nullptr);
 
+    // Puts the button for the width beside the width, for a low screen.
+    void Save_height();
+
     // The next point added starts a new segment.
     void Start_new_segment();
 

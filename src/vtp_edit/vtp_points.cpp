@@ -29,17 +29,15 @@ void Insert(Project& project, int point) {
 
 }  // namespace
 
-std::optional<Int16> Take_width(std::string& text, Messages& messages) {
+WidthResult Take_width(std::string_view text, Messages& messages) {
     // One unit beyond the range is as wrong as a number that does not fit 16 bits.
     const double limited = std::clamp(Numeric_value(text), -1.0, MaxVTPWidth + 1.0);
     const Int16 width = Round_half_even(limited);
     if (width < 0 || width > MaxVTPWidth) {
         Warn(messages, "Coast width must be in the range 0-300");
-        text = DefaultVTPWidthText;
-        return std::nullopt;
+        return {std::string(DefaultVTPWidthText), std::nullopt};
     }
-    text = Int_text(width);
-    return width;
+    return {Int_text(width), width};
 }
 
 int Next_point(const Project& project, const PanelState& panel) {

@@ -15,10 +15,14 @@ namespace tidemark {
 
 inline constexpr std::string_view DefaultVTPWidthText = "80";
 
-// Makes the width text a whole number (halves to the even neighbour; 0 without a leading number)
-// and returns it. A width outside 0..300 is refused with a warning, and the text becomes the
-// default.
-std::optional<Int16> Take_width(std::string& text, Messages& messages);
+struct WidthResult {
+    std::string Text;            // what the width box holds afterwards
+    std::optional<Int16> Width;  // nothing when it was refused
+};
+
+// Makes the width text a whole number (halves to the even neighbour; 0 without a leading number). A
+// width outside 0..300 is refused with a warning, and the text becomes the default.
+WidthResult Take_width(std::string_view text, Messages& messages);
 
 // The number of the next point: behind the last point when that one or none is selected or a new
 // segment is to start, otherwise the number of the selected point, which moves down by one.

@@ -1,6 +1,7 @@
 // Every window by keyboard and by screen reader, and where the windows come up.
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -61,6 +62,28 @@ TEST(ComfortTest, TabFollowsTheEyeAndEveryControlHasAName) {
     auto& map = Control<QWidget>(window, "Picture2");
     Click_at(map, {50, 50}, Qt::RightButton);
     expect_comfort_of_a_dialog([&] { Press(map, Qt::Key_E); });
+}
+
+TEST(ComfortTest, ThePanelIsAWindowWhosePositionsAreReadAsTheyChange) {
+    TidemarkMain window;
+    window.show();
+    window.Open(TIDEMARK_SOURCE_DIR "/sample/golden-gate.TDM");
+    const auto said = [&](const char* name) {
+        QAccessibleInterface* const control =
+            QAccessible::queryAccessibleInterface(&Control<QWidget>(window, name));
+        return std::pair(control->role(), control->text(QAccessible::Name).toStdString());
+    };
+    EXPECT_EQ(said("StatusLabel1").second, "LOD8 cell co-ordinates (VTP): --");
+    EXPECT_EQ(said("Status"),
+              std::pair(QAccessible::Window, std::string("Tidemark - Status Panel")));
+    QTest::mouseMove(&Control<QWidget>(window, "Picture2"), {40, 40});
+    const auto shown = [&](const char* name) {
+        return Control<QLabel>(window, name).text().toStdString();
+    };
+    EXPECT_NE(shown("StatusLabel2"), "--");
+    EXPECT_EQ(said("StatusLabel1").second,
+              "LOD8 cell co-ordinates (VTP): " + shown("StatusLabel1"));
+    EXPECT_EQ(said("StatusLabel2").second, "LOD13 cell co-ordinates: " + shown("StatusLabel2"));
 }
 
 TEST(ComfortTest, F6GoesFromWindowToWindow) {

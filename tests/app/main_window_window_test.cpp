@@ -1,14 +1,22 @@
 // The main window and its boxes, driven as a user would.
 #include <QDropEvent>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QStatusBar>
+#include <QToolBar>
 
 #include "app/tidemark_main_window.h"
 #include "fakes/window_test.h"
 #include "platform/qt_messages.h"
 
 namespace tidemark {
+
+// " [Ctrl+Z; Ctrl+Y]"
+static QString Keys(const QAction& entry) {
+    const QString keys = QKeySequence::listToString(entry.shortcuts());
+    return keys.isEmpty() ? "" : " [" + keys + "]";
+}
 
 class MainWindowTest : public testing::Test {
   protected:
@@ -46,14 +54,19 @@ class MainWindowTest : public testing::Test {
     Plan plan_;
 };
 
-TEST_F(MainWindowTest, TheMenuIsWholeAndStartsAsItShould) {
-    QString menu;
-    for (const char* name : {"FileMenu", "BackgroundMenu", "Output", "HelpMenu"})
-        for (const QAction* entry : Control<QMenu>(window_, name).actions())
-            if (!entry->isSeparator())
-                menu += entry->objectName() + ": " + entry->text() +
-                        (entry->isEnabled() ? "\n" : " (not yet)\n");
-    EXPECT_EQ(menu.toStdString(), Source_file("tests/app/data/menu.txt"));
+TEST_F(MainWindowTest, TheBarsAreWholeAndStartAsTheyShould) {
+    QString bars;
+    const auto add = [&](const QWidget& bar, const QString& caption) {
+        bars += bar.objectName() + ": " + caption + '\n';
+        for (const QAction* const entry : bar.actions())
+            bars += "  " + entry->objectName() +
+                    (entry->isSeparator() ? "" : ": " + entry->text()) + Keys(*entry) +
+                    (entry->isEnabled() ? "\n" : " (not yet)\n");
+    };
+    for (const QAction* const menu : window_.menuBar()->actions()) add(*menu->menu(), menu->text());
+    for (const QToolBar* const bar : window_.findChildren<QToolBar*>())
+        add(*bar, bar->windowTitle());
+    EXPECT_EQ(bars.toStdString(), Source_file("tests/app/data/bars.txt"));
     EXPECT_EQ(window_.windowTitle(), "Tidemark");
 }
 

@@ -1,4 +1,4 @@
-// A user who answers every dialog and message box by chance, at once.
+// A user who answers every dialog and message box at random, at once.
 #pragma once
 
 #include <QEvent>

@@ -1,4 +1,4 @@
-// A user who does this and that by chance on the real windows. After every action the project must
+// A user who does this and that at random on the real windows. After every action the project must
 // be one that editing can make, and the panel and the menu must show it.
 //
 // TIDEMARK_RANDOM_ACTIONS in the environment makes the runs longer than they are in the tests.

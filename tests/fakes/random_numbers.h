@@ -1,4 +1,4 @@
-// Numbers by chance, the same ones for the same seed.
+// Random numbers, the same ones for the same seed.
 #pragma once
 
 #include <random>

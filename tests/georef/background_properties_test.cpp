@@ -33,8 +33,8 @@ TEST(BackgroundPropertiesTest, FieldsInRangeAreStoredEvenBesideOthersThatAreNot)
 TEST(CellCalculatorTest, PositionsGiveTheirCellAndBadTextsAreToldAndReset) {
     Expect_cases("georef/data/calculations.txt", [](const Given& given) {
         RecordingMessages messages;
-        CalculatorTexts texts{given.at(0), given.at(1), given.at(2), given.at(3)};
-        const auto cell = Calculate_cell(texts, messages);
+        const auto [texts, cell] =
+            Calculate_cell({given.at(0), given.at(1), given.at(2), given.at(3)}, messages);
         if (cell) Report_cell(*cell, false, messages);
         return messages.Said() + (cell ? "" : "\n" + texts.Latitude + ", " + texts.Longitude);
     });

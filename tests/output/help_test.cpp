@@ -7,6 +7,7 @@ namespace tidemark {
 
 TEST(HelpTest, ADocumentBelowTheCurrentFolderComesFirstAndWithoutABrowserItsNameIsTold) {
     const std::string here = "/home/me/Documentation/Tutorial.html";
+    const std::string beside = "/opt/tidemark/bin/Documentation/Tutorial.html";
     const std::string installed = "/opt/tidemark/share/doc/tidemark/Documentation/Tutorial.html";
     FakePlatform fake;
     const auto show = [&](const HelpDocument& document) {
@@ -16,6 +17,8 @@ TEST(HelpTest, ADocumentBelowTheCurrentFolderComesFirstAndWithoutABrowserItsName
     EXPECT_EQ(show(TutorialDocument), "file://" + here) << "neither is there";
     fake.files.Content[installed] = "";
     EXPECT_EQ(show(TutorialDocument), "file://" + installed);
+    fake.files.Content[beside] = "";
+    EXPECT_EQ(show(TutorialDocument), "file://" + beside);
     fake.files.Content[here] = "";
     EXPECT_EQ(show(TutorialDocument), "file://" + here);
     EXPECT_EQ(fake.messages.Said(), "");

@@ -1,4 +1,4 @@
-// The machine's files: replaced whole, read only when they are files, failures told in words.
+// The machine's files: replaced whole, read only when they are files, failures reported in words.
 #include "platform/files.h"
 
 #include "fakes/rules_test.h"

@@ -100,8 +100,7 @@ TEST(VTPPointsTest, AFullProjectRefusesThePoint) {
 TEST(VTPPointsTest, AWidthIsRoundedAndRefusedOutside0To300) {
     Expect_cases("vtp_edit/data/widths.txt", [](const Given& given) {
         RecordingMessages messages;
-        std::string text = given[0];
-        const auto width = Take_width(text, messages);
+        const auto [text, width] = Take_width(given[0], messages);
         return (width ? Int_text(*width) : "") + messages.Said() + ", " + text;
     });
 }
