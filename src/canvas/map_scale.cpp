@@ -8,9 +8,9 @@ namespace tidemark {
 
 namespace {
 
-constexpr std::array Levels{
-    SmallestLevel, 1.0 / 6, 1.0 / 4, 1.0 / 3, 1.0 / 2, 2.0 / 3, 1.0,         3.0 / 2,
-    2.0,           3.0,     4.0,     6.0,     8.0,     12.0,    LargestLevel};
+constexpr std::array Levels{SmallestLevel, 1.0 / 6, 1.0 / 4, 1.0 / 3, 1.0 / 2,
+                            2.0 / 3,       1.0,     3.0 / 2, 2.0,     3.0,
+                            4.0,           6.0,     8.0,     12.0,    LargestLevel};
 
 int Round_to_pixel(double position) {
     return static_cast<int>(std::floor(position + 0.5));

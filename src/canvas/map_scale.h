@@ -48,8 +48,8 @@ class MapScale {
 
 inline constexpr double SmallestLevel = 1.0 / 8, LargestLevel = 16;
 
-// The usual levels are 12.5 to 1600 %. The next of them above or below a zoom, which may lie between
-// two of them or beyond; the zoom itself when there is none.
+// The usual levels are 12.5 to 1600 %. The next of them above or below a zoom, which may lie
+// between two of them or beyond; the zoom itself when there is none.
 double Next_level(double zoom);
 double Previous_level(double zoom);
 // The one that a zoom is nearest to, by their ratio.

@@ -79,11 +79,12 @@ struct Source {
     bool operator==(const Source&) const = default;
 };
 
-// `start` is the place of the first pixel along the grid, `length` that of the image.
+// `start` is the place of the first pixel along the grid, `length` that of the image. A centre that
+// falls between two pixels of the image shows the first of them, as Qt's painter has it.
 std::vector<Source> Nearest(int count, double start, double factor, int length) {
     std::vector<Source> sources;
     for (int i = 0; i < count; ++i) {
-        const int at = static_cast<int>(std::floor((start + i + 0.5) / factor));
+        const int at = static_cast<int>(std::ceil((start + i + 0.5) / factor)) - 1;
         sources.push_back({std::clamp(at, 0, length - 1), 0});
     }
     return sources;
@@ -104,7 +105,8 @@ std::vector<Source> Between(int count, double start, double factor, int length) 
 void Fill_row(QRgb* to, const std::vector<Source>& columns, int left, const QRgb* row,
               const QRgb* next, quint32 weight, std::vector<QRgb>& blended) {
     if (weight > 0) {
-        for (std::size_t x = 0; x < blended.size(); ++x) blended[x] = Blend(row[x], next[x], weight);
+        for (std::size_t x = 0; x < blended.size(); ++x)
+            blended[x] = Blend(row[x], next[x], weight);
         row = blended.data();
     }
     for (const Source& column : columns) {
@@ -164,8 +166,7 @@ QImage MapPicture::Pixels(const QRect& part, const PixelGrid& grid) {
     const QImage& image = Halved(times);
     const double factor = std::ldexp(grid.Factor, times);
     const auto sources = factor < 1 ? Between : Nearest;
-    return Resampled(image,
-                     sources(part.width(), grid.Left + part.left(), factor, image.width()),
+    return Resampled(image, sources(part.width(), grid.Left + part.left(), factor, image.width()),
                      sources(part.height(), grid.Top + part.top(), factor, image.height()));
 }
 

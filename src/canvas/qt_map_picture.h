@@ -25,7 +25,8 @@ class MapPicture {
     void Take(QImage image);
     QSize Size() const { return image_.size(); }
 
-    // The pixels of `part`, all of which lie on the map. Where the image is transparent it is white.
+    // The pixels of `part`, all of which lie on the map. Where the image is transparent it is
+    // white.
     QImage Pixels(const QRect& part, const PixelGrid& grid);
 
   private:

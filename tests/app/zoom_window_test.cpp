@@ -66,7 +66,8 @@ TEST_F(ZoomTest, KeysAndToolBarZoomAndTheLevelGoesWithThePicture) {
     Open("a.bmp");
     EXPECT_EQ(enabled(), "ZoomOut ZoomReset ZoomIn ZoomWhole");
     QStringList levels{Level()};
-    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Minus, Qt::Key_0, Qt::Key_Minus}) {
+    for (const Qt::Key key :
+         {Qt::Key_Plus, Qt::Key_Equal, Qt::Key_Minus, Qt::Key_0, Qt::Key_Minus}) {
         Key(key);
         levels << Level();
     }

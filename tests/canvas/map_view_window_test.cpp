@@ -112,6 +112,29 @@ TEST_F(MapViewTest, DrawingsHaveTheirColoursAndWidthsOverTheImage) {
     EXPECT_EQ(canvas_.grab().toImage().pixel(100, 100), red);
 }
 
+TEST_F(MapViewTest, ZoomedMapsKeepTheirColoursAndPensTheirWidths) {
+    Load(BMP_bytes(1002, 200));  // red up to 501
+    Place_area(project_, 0, 0, 3, 0);
+    Add_segment(project_, 5, 80, {{4280, 4080}, {4280, 4280}});
+    Refresh_Graphics(project_, 0, canvas_.Surface(), messages_);
+    // What the row shows from a place of the zoomed map on.
+    const auto row = [&](int left, int y) {
+        QString colours;
+        const QImage image = canvas_.grab({left, y, 5, 1}).toImage();
+        for (int x = 0; x < 5; ++x) colours += QColor(image.pixel(x, 0)).name() + " ";
+        return colours.replace("#ff0000", "r").replace("#0000ff", "b").replace("#00ffff", "c");
+    };
+    EXPECT_EQ(row(499, 100), "r r b b b ");
+    EXPECT_EQ(row(198, 100), "r c c r r ");
+    view_.Zoom_out();
+    view_.Zoom_out();
+    EXPECT_EQ(row(248, 50), "r r #800080 b b ") << "at 50 %";
+    EXPECT_EQ(row(98, 50), "r c c r r ");
+    for (int i = 0; i < 4; ++i) view_.Zoom_in();
+    EXPECT_EQ(row(1000, 300), "r r b b b ") << "at 200 %";
+    EXPECT_EQ(row(398, 300), "r c c r r ");
+}
+
 TEST_F(MapViewTest, ScrolledPicturesEqualThosePaintedAnew) {
     Load(Encoded(Red_and_blue(1000, 900, QImage::Format_Grayscale8), "jpeg"));
     project_ = Largest_project();
