@@ -140,6 +140,7 @@ void TidemarkMain::Wire_tool_bar() {
             [this] { Travel(&Document::Undo, "Undone: ", document_.What_undo()); });
     connect(&tool_bar_->EditRedo(), &QAction::triggered, this,
             [this] { Travel(&Document::Redo, "Redone: ", document_.What_redo()); });
+    tool_bar_->Zoom(*map_);
 }
 
 void TidemarkMain::Wire_status_panel() {

@@ -20,9 +20,9 @@ void Show_step(QAction& action, bool is_possible, const std::string& step) {
     action.setToolTip(Tip(action, To_qt(step)));
 }
 
-QAction* Add_command(QToolBar& bar, const char* name, const QString& text, const IconShapes& icon,
+QAction* Add_command(QToolBar& bar, const char* name, const QString& text, const QIcon& icon,
                      const QList<QKeySequence>& keys) {
-    QAction* const action = bar.addAction(Drawn_icon(icon), text);
+    QAction* const action = bar.addAction(icon, text);
     action->setObjectName(name);
     action->setShortcuts(keys);
     action->setToolTip(Tip(*action));
@@ -35,18 +35,47 @@ QAction* Add_command(QToolBar& bar, const char* name, const QString& text, const
 
 ToolBar::ToolBar(QWidget* parent)
     : QToolBar("Tools", parent),
-      EditUndo_(Add_command(*this, "EditUndo", "Undo", UndoIcon(), {Qt::CTRL | Qt::Key_Z})),
-      EditRedo_(Add_command(*this, "EditRedo", "Redo", RedoIcon(),
-                            {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})) {
+      EditUndo_(
+          Add_command(*this, "EditUndo", "Undo", Drawn_icon(UndoIcon()), {Qt::CTRL | Qt::Key_Z})),
+      EditRedo_(Add_command(*this, "EditRedo", "Redo", Drawn_icon(RedoIcon()),
+                            {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})),
+      ZoomOut_((addSeparator(), Add_command(*this, "ZoomOut", "Zoom out", Drawn_icon(ZoomOutIcon()),
+                                            {Qt::CTRL | Qt::Key_Minus}))),
+      ZoomReset_(Add_command(*this, "ZoomReset", "Zoom to 100 %", {}, {Qt::CTRL | Qt::Key_0})),
+      ZoomIn_(Add_command(*this, "ZoomIn", "Zoom in", Drawn_icon(ZoomInIcon()),
+                          {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal})),
+      ZoomWhole_(Add_command(*this, "ZoomWhole", "Whole map", Drawn_icon(ZoomWholeIcon()), {})) {
     setObjectName("ToolBar");
     setMovable(false);
     setIconSize({20, 20});
-    for (QAction* const action : {EditUndo_, EditRedo_}) action->setEnabled(false);
+    for (QAction* const action : {EditUndo_, EditRedo_, ZoomOut_, ZoomReset_, ZoomIn_, ZoomWhole_})
+        action->setEnabled(false);
+    // What stands to the right of the level keeps its place.
+    QWidget& level = *widgetForAction(ZoomReset_);
+    ZoomReset_->setIconText("1600 %");
+    level.setMinimumWidth(level.sizeHint().width());
+    ZoomReset_->setIconText("100 %");
 }
 
 void ToolBar::Show_history(const Document& document) {
     Show_step(*EditUndo_, document.Can_undo(), document.What_undo());
     Show_step(*EditRedo_, document.Can_redo(), document.What_redo());
+}
+
+void ToolBar::Zoom(MapView& map) {
+    connect(ZoomOut_, &QAction::triggered, &map, &MapView::Zoom_out);
+    connect(ZoomReset_, &QAction::triggered, &map, &MapView::Zoom_reset);
+    connect(ZoomIn_, &QAction::triggered, &map, &MapView::Zoom_in);
+    connect(ZoomWhole_, &QAction::triggered, &map, &MapView::Zoom_whole);
+    connect(&map, &MapView::Zoom_changed, this, [this, &map] { Show_zoom(map); });
+}
+
+void ToolBar::Show_zoom(const MapView& map) {
+    const double zoom = map.Scale().Zoom();
+    ZoomReset_->setIconText(QString::fromStdString(map.Scale().Percent()));
+    ZoomOut_->setEnabled(map.Has_map() && Previous_level(zoom) != zoom);
+    ZoomIn_->setEnabled(map.Has_map() && Next_level(zoom) != zoom);
+    for (QAction* const action : {ZoomReset_, ZoomWhole_}) action->setEnabled(map.Has_map());
 }
 
 }  // namespace tidemark

@@ -3,6 +3,7 @@
 
 #include <QToolBar>
 
+#include "canvas/map_view_window.h"
 #include "model/document.h"
 
 namespace tidemark {
@@ -18,10 +19,18 @@ class ToolBar : public QToolBar {
 
     // Enables Undo and Redo, and lets their tooltips name what they would undo and redo.
     void Show_history(const Document& document);
+    // Lets the zoom commands work on a map, which lives as long as the tool bar.
+    void Zoom(MapView& map);
 
   private:
+    void Show_zoom(const MapView& map);
+
     QAction* EditUndo_;
     QAction* EditRedo_;
+    QAction* ZoomOut_;
+    QAction* ZoomReset_;
+    QAction* ZoomIn_;
+    QAction* ZoomWhole_;
 };
 
 }  // namespace tidemark

@@ -7,5 +7,8 @@ namespace tidemark {
 
 IconShapes UndoIcon();
 IconShapes RedoIcon();
+IconShapes ZoomOutIcon();
+IconShapes ZoomInIcon();
+IconShapes ZoomWholeIcon();
 
 }  // namespace tidemark

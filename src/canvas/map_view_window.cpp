@@ -5,7 +5,6 @@
 #include <QGuiApplication>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QWheelEvent>
 
 #include "canvas/qt_image_file.h"
 #include "platform/qt_text.h"
@@ -43,7 +42,7 @@ QScrollBar* Scroll_bar(const char* name, const char* spoken, Qt::Orientation ori
 void Lay_out_bar(QScrollBar& bar, const ScrollBarLayout& layout, int page) {
     const QSignalBlocker blocker(bar);
     bar.setGeometry(Qt_rect(layout.Place));
-    bar.setRange(0, Max_int(layout.Maximum, 0));
+    bar.setRange(0, qMax(layout.Maximum, 0));
     bar.setPageStep(page);
     bar.setVisible(layout.Visible);
 }
@@ -70,76 +69,110 @@ MapView::MapView(QWidget* parent)
     setTabOrder(VScroll1_, HScroll1_);
     connect(HScroll1_, &QScrollBar::valueChanged, this, &MapView::HScroll1_Change);
     connect(VScroll1_, &QScrollBar::valueChanged, this, &MapView::VScroll1_Change);
+    connect(Picture2_, &MapCanvas::Panned, this, &MapView::Pan_to);
 }
 
 bool MapView::Show_image(const std::string& path) {
     const QFileInfo file(To_qt(path));
     if (!file.isFile() || !file.isReadable()) return false;
     const FileState state{file.filePath(), file.size(), file.lastModified()};
-    if (state != shown_file_) {
+    const bool is_new = state != shown_file_;
+    if (is_new) {
         if (!Decode(state.Path)) return false;
         shown_file_ = state;
     }
-    const auto layout = Layout_for(Picture2_->size());
-    if (!layout) return false;
-    Lay_out(*layout);
+    if (!Fits(Canvas_size())) return false;
     shown_path_ = path;
+    if (is_new && !scale_.Is_natural()) {
+        Lay_out(MapScale());
+        Turn_bars();
+    } else if (scale_.Is_natural()) {
+        Lay_out(MapScale());  // the bars keep their values
+    } else {
+        Keep_middle();
+    }
+    if (is_new) Q_EMIT Zoom_changed();
     return true;
 }
 
 void MapView::Show_nothing() {
     shown_file_ = {};
     shown_path_.clear();
-    Picture2_->Show_image({});
+    Picture2_->Take_image({});
+    scale_ = MapScale();
     for (QWidget* const part :
          {Picture1_, static_cast<QWidget*>(HScroll1_), static_cast<QWidget*>(VScroll1_)})
         part->hide();
     BeginLabel_->show();
+    Q_EMIT Zoom_changed();
 }
 
 bool MapView::Decode(const QString& path) {
     const BusyCursor busy;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return false;
-    QImage image =
-        Read_map_image(file, [this](QSize size) { return Layout_for(size).has_value(); });
+    QImage image = Read_map_image(file, [this](QSize size) { return Fits(size); });
     if (image.isNull()) return false;
-    Picture2_->Show_image(std::move(image));
+    Picture2_->Take_image(std::move(image));
     return true;
 }
 
-std::optional<ViewLayout> MapView::Layout_for(QSize image) const {
-    return Lay_out_view({width(), height()}, {image.width(), image.height()},
-                        style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, HScroll1_));
+int MapView::Bar_thickness() const {
+    return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, HScroll1_);
 }
 
-void MapView::Lay_out(const ViewLayout& layout) {
+// Whether an image is small enough to be shown, at whatever zoom.
+bool MapView::Fits(QSize image) const {
+    return Lay_out_view({width(), height()}, {image.width(), image.height()}, Bar_thickness())
+        .has_value();
+}
+
+// Shows the map at this zoom, scrolled as far as there is any of it.
+void MapView::Lay_out(const MapScale& scale) {
+    const ViewSize map = scale.Shown_size({Canvas_size().width(), Canvas_size().height()});
+    const ViewLayout layout = Lay_out_map({width(), height()}, map, Bar_thickness());
     Picture1_->setGeometry(Qt_rect(layout.Viewport));
-    Picture2_->move(0, 0);
     Lay_out_bar(*HScroll1_, layout.Horizontal, layout.Viewport.Width);
     Lay_out_bar(*VScroll1_, layout.Vertical, layout.Viewport.Height);
+    scale_ = scale;
+    scale_.Scroll_to(qBound(0, scale.Left(), HScroll1_->maximum()),
+                     qBound(0, scale.Top(), VScroll1_->maximum()));
+    Picture2_->Show_at(scale_);
     BeginLabel_->hide();
     Picture1_->show();
 }
 
+void MapView::Keep_middle() {
+    MapScale scale = scale_;
+    scale.Put(middle_, Middle());
+    Lay_out(scale);
+    Turn_bars();
+}
+
+// To where the canvas is.
+void MapView::Turn_bars() {
+    const QSignalBlocker across(HScroll1_), down(VScroll1_);
+    HScroll1_->setValue(scale_.Left());
+    VScroll1_->setValue(scale_.Top());
+}
+
+void MapView::Move_to(int left, int top) {
+    scale_.Scroll_to(left, top);
+    middle_ = scale_.To_canvas(Middle());
+    Picture2_->Show_at(scale_);
+}
+
 void MapView::HScroll1_Change(int value) {
-    Picture2_->move(-value, Picture2_->y());
+    Move_to(value, scale_.Top());
 }
 
 void MapView::VScroll1_Change(int value) {
-    Picture2_->move(Picture2_->x(), -value);
+    Move_to(scale_.Left(), value);
 }
 
 void MapView::resizeEvent(QResizeEvent*) {
     BeginLabel_->setGeometry(rect());
     Q_EMIT Resized();
-}
-
-// The wheel turned over the map turns the bar of its direction.
-void MapView::wheelEvent(QWheelEvent* event) {
-    const QPoint turned = event->angleDelta();
-    const bool across = qAbs(turned.x()) > qAbs(turned.y());
-    QCoreApplication::sendEvent(across ? HScroll1_ : VScroll1_, event);
 }
 
 }  // namespace tidemark

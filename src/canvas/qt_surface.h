@@ -12,8 +12,8 @@
 
 namespace tidemark {
 
-// Canvas pixels are the painter's units. What is drawn is kept as a list, not as pixels, so its
-// size follows the drawing and not the image. Positions that are no finite numbers are left out.
+// What is drawn is kept as a list, not as pixels, so its size follows the drawing and not the
+// image. Positions that are no finite numbers are left out.
 class QtSurface : public DrawingSurface {
   public:
     // `changed` is called at the first operation after each Paint, not at every one.
@@ -25,9 +25,10 @@ class QtSurface : public DrawingSurface {
     void Line(CanvasPoint from, CanvasPoint to) override;
     void Circle(CanvasPoint centre, double radius, Colour colour) override;
 
-    // Paints the drawings that may touch `exposed`, in the order in which they were drawn. The
-    // caller clips.
-    void Paint(QPainter& painter, const QRect& exposed);
+    // Paints the drawings that may touch `exposed`, in the order in which they were drawn. A canvas
+    // pixel is `zoom` of the painter's units; pens and rings are as wide at every zoom. The caller
+    // clips.
+    void Paint(QPainter& painter, const QRect& exposed, double zoom);
 
   private:
     // Neighbours in the list that are painted together: lines of one pen, or one circle (its only
@@ -36,11 +37,13 @@ class QtSurface : public DrawingSurface {
         QPen Pen;
         bool IsCircle;
         int First, Count;                 // of lines_
-        double Left, Top, Right, Bottom;  // of everything that the batch paints
+        double Left, Top, Right, Bottom;  // of the lines' ends
+        double Reach;                     // how far the strokes come from them, at most
     };
 
-    void Add(const QLineF& line, double reach, Batch& batch);
-    void Start_batch(const QPen& pen, bool is_circle);
+    void Add(const QLineF& line, Batch& batch);
+    void Start_batch(const QPen& pen, bool is_circle, double reach);
+    void Paint(QPainter& painter, const Batch& batch, double zoom) const;
     void Announce_change();
 
     std::vector<QLineF> lines_;

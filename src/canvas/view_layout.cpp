@@ -2,20 +2,25 @@
 
 #include <algorithm>
 
+#include "model/int16.h"
+
 namespace tidemark {
 
-std::optional<ViewLayout> Lay_out_view(ViewSize client, ViewSize image, int bar_thickness) {
+ViewLayout Lay_out_map(ViewSize client, ViewSize map, int bar_thickness) {
     const int width = std::max(client.Width - bar_thickness, 0);
     const int height = std::max(client.Height - bar_thickness, 0);
-    if (!Int16::Fits(image.Width - width) || !Int16::Fits(image.Height - height))
-        return std::nullopt;
+    const bool wide = width < map.Width;
+    const bool high = height < map.Height;
+    return {{0, 0, width, height},
+            {{0, high ? height : map.Height, width, bar_thickness}, map.Width - width, wide},
+            {{wide ? width : map.Width, 0, bar_thickness, height}, map.Height - height, high}};
+}
 
-    const bool wide = width < image.Width;
-    const bool high = height < image.Height;
-    return ViewLayout{
-        {0, 0, width, height},
-        {{0, high ? height : image.Height, width, bar_thickness}, image.Width - width, wide},
-        {{wide ? width : image.Width, 0, bar_thickness, height}, image.Height - height, high}};
+std::optional<ViewLayout> Lay_out_view(ViewSize client, ViewSize image, int bar_thickness) {
+    const ViewLayout layout = Lay_out_map(client, image, bar_thickness);
+    if (!Int16::Fits(layout.Horizontal.Maximum) || !Int16::Fits(layout.Vertical.Maximum))
+        return std::nullopt;
+    return layout;
 }
 
 }  // namespace tidemark

@@ -3,8 +3,6 @@
 
 #include <optional>
 
-#include "model/int16.h"
-
 namespace tidemark {
 
 // All lengths are pixels.
@@ -19,7 +17,7 @@ struct ViewRect {
 
 struct ScrollBarLayout {
     ViewRect Place;
-    Int16 Maximum;  // negative where the image is smaller than the viewport
+    int Maximum;  // negative where the image is smaller than the viewport
     bool Visible;
 };
 
@@ -28,9 +26,13 @@ struct ViewLayout {
     ScrollBarLayout Horizontal, Vertical;
 };
 
-// The viewport fills the client area but for the room of both bars. A bar shows when the image is
+// The viewport fills the client area but for the room of both bars. A bar shows when the map is
 // larger than the viewport; a bar that has no hidden bar beside it lies along the viewport, one
-// beside a hidden bar along the image. Nothing when a scroll bar's maximum would not fit 16 bits.
+// beside a hidden bar along the map. `map` is the size at which the map is shown.
+ViewLayout Lay_out_map(ViewSize client, ViewSize map, int bar_thickness);
+
+// The same for an image at its own size, which is what limits the size of an image: nothing when a
+// scroll bar's maximum would not fit 16 bits.
 std::optional<ViewLayout> Lay_out_view(ViewSize client, ViewSize image, int bar_thickness);
 
 }  // namespace tidemark

@@ -8,7 +8,7 @@ namespace tidemark {
 static std::string Text(const ScrollBarLayout& bar) {
     std::ostringstream text;
     text << bar.Place.Left << ',' << bar.Place.Top << ' ' << bar.Place.Width << 'x'
-         << bar.Place.Height << " to " << int{bar.Maximum} << (bar.Visible ? " shown" : " hidden");
+         << bar.Place.Height << " to " << bar.Maximum << (bar.Visible ? " shown" : " hidden");
     return text.str();
 }
 
