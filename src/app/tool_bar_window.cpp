@@ -39,7 +39,7 @@ ToolBar::ToolBar(QWidget* parent)
           Add_command(*this, "EditUndo", "Undo", Drawn_icon(UndoIcon()), {Qt::CTRL | Qt::Key_Z})),
       EditRedo_(Add_command(*this, "EditRedo", "Redo", Drawn_icon(RedoIcon()),
                             {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y})),
-      ZoomOut_((addSeparator(), Add_command(*this, "ZoomOut", "Zoom out", Drawn_icon(ZoomOutIcon()),
+      ZoomOut_((addSeparator()->setObjectName("sep6"), Add_command(*this, "ZoomOut", "Zoom out", Drawn_icon(ZoomOutIcon()),
                                             {Qt::CTRL | Qt::Key_Minus}))),
       ZoomReset_(Add_command(*this, "ZoomReset", "Zoom to 100 %", {}, {Qt::CTRL | Qt::Key_0})),
       ZoomIn_(Add_command(*this, "ZoomIn", "Zoom in", Drawn_icon(ZoomInIcon()),

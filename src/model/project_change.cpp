@@ -217,10 +217,13 @@ ProjectChange::ProjectChange(const Project& before, const Project& after)
     : points_(Difference<Points>(before, after)),
       cells_(Difference<ClearedCells>(before, after)),
       polygons_(Difference<Polygons>(before, after)) {
-    For_each_changed_value(before, after,
-                           [this](std::size_t place, const auto& old_value, const auto& new_value) {
-                               values_.push_back({place, old_value, new_value});
-                           });
+    For_each_changed_value(
+        before, after, [this](std::size_t place, const auto& old_value, const auto& new_value) {
+            using Kind =
+                std::in_place_type_t<std::decay_t<decltype(old_value)>>;  // bool is no Int16
+            values_.push_back({place, ValueChange::Value(Kind(), old_value),
+                               ValueChange::Value(Kind(), new_value)});
+        });
 }
 
 bool ProjectChange::Is_empty() const {

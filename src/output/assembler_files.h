@@ -1,8 +1,8 @@
 // Writing the two assembler files, with their refusals and messages.
 //
 // A file is replaced as a whole or not at all, and one that is none of ours only after a question.
-// A refusal or a failed write is reported with Warn, a failed write naming the file and the reason, and
-// leaves an old file of that name as it was.
+// A refusal or a failed write is reported with Warn, a failed write naming the file and the reason,
+// and leaves an old file of that name as it was.
 #pragma once
 
 #include "model/project.h"

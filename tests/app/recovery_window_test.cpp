@@ -112,7 +112,7 @@ TEST_F(RecoveryWindowTest, WhatCannotBeReadOrWrittenIsSaid) {
     Press(Control<ListBox>(other, "VTPlistbox"), Qt::Key_Down);
     Press(Control<ListBox>(other, "VTPlistbox"), Qt::Key_Delete);
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return other.statusBar()->currentMessage().contains("cannot be kept for recovery"); },
+        [&] { return other.statusBar()->currentMessage().contains("unsaved work cannot be kept: "); },
         3000));
 }
 
