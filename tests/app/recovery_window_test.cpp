@@ -112,7 +112,9 @@ TEST_F(RecoveryWindowTest, WhatCannotBeReadOrWrittenIsSaid) {
     Press(Control<ListBox>(other, "VTPlistbox"), Qt::Key_Down);
     Press(Control<ListBox>(other, "VTPlistbox"), Qt::Key_Delete);
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return other.statusBar()->currentMessage().contains("unsaved work cannot be kept: "); },
+        [&] {
+            return other.statusBar()->currentMessage().contains("unsaved work cannot be kept: ");
+        },
         3000));
 }
 
