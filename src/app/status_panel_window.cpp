@@ -92,6 +92,9 @@ Status::Status(Document& document, Session& session, Messages& messages, QWidget
     connect(vtp_, &VTPFrame::Graphics_outdated, this, &Status::Graphics_outdated);
     connect(lwm_, &LWMFrame::Graphics_outdated, this, &Status::Graphics_outdated);
     connect(kill_, &KillFrame::Graphics_outdated, this, &Status::Graphics_outdated);
+    connect(vtp_, &VTPFrame::Show_wanted, this, &Status::Show_wanted);
+    connect(lwm_, &LWMFrame::Show_wanted, this, &Status::Show_wanted);
+    connect(kill_, &KillFrame::Show_wanted, this, &Status::Show_wanted);
 }
 
 // A screen that is too low for lists of six lines in one column gets the shorter ones, and the two

@@ -34,6 +34,7 @@ class Status : public QWidget {
   Q_SIGNALS:
     void RefreshButton_Click();
     void Graphics_outdated();  // another line of a list was selected
+    void Show_wanted();        // a line was double-clicked
     // The panel has got a new size, or its first one; the first drawing mode is then selected.
     void Resized();
 

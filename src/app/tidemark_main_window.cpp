@@ -141,6 +141,9 @@ void TidemarkMain::Wire_tool_bar() {
     connect(&tool_bar_->EditRedo(), &QAction::triggered, this,
             [this] { Travel(&Document::Redo, "Redone: ", document_.What_redo()); });
     tool_bar_->Zoom(*map_);
+    connect(&tool_bar_->GoTo(), &QAction::triggered, this, &TidemarkMain::Go_to);
+    connect(&tool_bar_->ShowChosen(), &QAction::triggered, this, &TidemarkMain::Show_chosen);
+    connect(tool_bar_, &ToolBar::Marks_changed, this, &TidemarkMain::Show_marks);
 }
 
 void TidemarkMain::Wire_status_panel() {
@@ -155,6 +158,7 @@ void TidemarkMain::Wire_status_panel() {
     });
     connect(status_, &Status::RefreshButton_Click, this, &TidemarkMain::Refresh_Graphics);
     connect(status_, &Status::Graphics_outdated, this, &TidemarkMain::Refresh_Graphics);
+    connect(status_, &Status::Show_wanted, this, &TidemarkMain::Show_chosen);
     connect(&status_->LWM(), &LWMFrame::Remarked, this, &TidemarkMain::Remark);
 }
 

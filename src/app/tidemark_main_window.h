@@ -15,6 +15,7 @@
 #include "canvas/map_view_window.h"
 #include "georef/background_properties_window.h"
 #include "georef/cell_calculator_window.h"
+#include "georef/go_to_window.h"
 #include "model/document.h"
 #include "output/after_save.h"
 #include "output/help.h"
@@ -94,6 +95,10 @@ class TidemarkMain : public QMainWindow {
     void Picture2_KeyDown(int key_code);
     void Left_click();
     void Select_point();
+    void Go_to();
+    void Show_chosen();
+    void Show_place(VTPPlace place);
+    void Show_marks();
     void EditButton_Click();
     void Show_project();
     void Show_title();
@@ -136,6 +141,7 @@ class TidemarkMain : public QMainWindow {
     EditPoint* edit_point_ = nullptr;
     BGproperties* background_properties_ = nullptr;
     CellCalculator* calculator_ = nullptr;
+    GoTo* go_to_ = nullptr;
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

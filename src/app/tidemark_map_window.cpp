@@ -2,10 +2,12 @@
 #include <QScopeGuard>
 #include <QStatusBar>
 
+#include "app/chosen_place.h"
 #include "app/project_commands.h"
 #include "app/tidemark_main_window.h"
 #include "canvas/click.h"
 #include "canvas/map_frame.h"
+#include "canvas/map_marks.h"
 #include "canvas/refresh_graphics.h"
 #include "model/path_text.h"
 #include "platform/qt_keys.h"
@@ -52,6 +54,8 @@ void TidemarkMain::Picture2_MouseMove(float x, float y) {
     if (const auto texts = Move_cursor(document_.Now(), session_, x, y))
         status_->Show_cursor(To_qt(texts->VTP), To_qt(texts->Cell));
     status_line_->Show_place(document_.Now(), session_);
+    if (tool_bar_->Wanted_marks().Pointer)
+        map_->Canvas().Show_pointer_frame(Pointer_frame(document_.Now(), session_));
 }
 
 void TidemarkMain::Picture2_MouseDown(int button) {
@@ -81,6 +85,7 @@ void TidemarkMain::Select_point() {
     const auto nearest = Nearest_point(document_.Now(), session_);
     if (!nearest) return;
     session_.Panel.SelectedPoint = *nearest - 1;
+    session_.LastChosen = ListKind::Points;
     status_->VTP().Refresh();
     Refresh_Graphics();
 }
@@ -163,6 +168,27 @@ void TidemarkMain::Refresh_Graphics() {
     const auto done = qScopeGuard([this] { redrawing_ = false; });
     tidemark::Refresh_Graphics(document_.Now(), session_.Panel.SelectedPoint,
                                map_->Canvas().Surface(), messages_);
+    Show_marks();
+}
+
+void TidemarkMain::Show_marks() {
+    const MarkKinds kinds = tool_bar_->Wanted_marks();
+    map_->Canvas().Show_marks(Marks_of(document_.Now(), session_, kinds));
+    if (!kinds.Pointer) map_->Canvas().Show_pointer_frame({});
+}
+
+void TidemarkMain::Go_to() {
+    if (!go_to_) go_to_ = new GoTo(this);
+    const VTPPlace middle{session_.CursorVTPX, session_.CursorVTPY};
+    if (const auto place = go_to_->Ask(document_.Now(), middle)) Show_place(*place);
+}
+
+void TidemarkMain::Show_chosen() {
+    if (const auto place = Chosen_place(document_.Now(), session_)) Show_place(*place);
+}
+
+void TidemarkMain::Show_place(VTPPlace place) {
+    map_->Center_on(VTP_to_canvas(document_.Now(), place.X, place.Y));
 }
 
 }  // namespace tidemark

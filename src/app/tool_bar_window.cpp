@@ -1,5 +1,8 @@
 #include "app/tool_bar_window.h"
 
+#include <QMenu>
+#include <QToolButton>
+
 #include "app/tool_icons_window.h"
 #include "platform/qt_drawn_icon.h"
 #include "platform/qt_text.h"
@@ -51,11 +54,48 @@ ToolBar::ToolBar(QWidget* parent)
     setIconSize({20, 20});
     for (QAction* const action : {EditUndo_, EditRedo_, ZoomOut_, ZoomReset_, ZoomIn_, ZoomWhole_})
         action->setEnabled(false);
+    Add_marks();
+    GoTo_ = Add_command(*this, "GoTo", "Go to", Drawn_icon(GoToIcon()), {Qt::CTRL | Qt::Key_G});
+    ShowChosen_ = Add_command(*this, "ShowChosen", "Show chosen", Drawn_icon(ShowChosenIcon()),
+                              {Qt::CTRL | Qt::Key_J});
+    for (QAction* const action : {Marks_, GoTo_, ShowChosen_}) action->setEnabled(false);
     // What stands to the right of the level keeps its place.
     QWidget& level = *widgetForAction(ZoomReset_);
     ZoomReset_->setIconText("1600 %");
     level.setMinimumWidth(level.sizeHint().width());
     ZoomReset_->setIconText("100 %");
+}
+
+// The button switches all of them; its menu says which of them these are.
+void ToolBar::Add_marks() {
+    addSeparator()->setObjectName("sep7");
+    Marks_ = Add_command(*this, "Marks", "Marks", Drawn_icon(MarksIcon()), {Qt::Key_F9});
+    Marks_->setCheckable(true);
+    auto* const kinds = new QMenu(this);
+    kinds->setObjectName("MarksMenu");
+    constexpr std::array<std::pair<const char*, const char*>, 4> entries{
+        {{"MarkCells", "Cell edges and numbers"},
+         {"MarkPointer", "Cell under the pointer"},
+         {"MarkTint", "Tinted polygons"},
+         {"MarkChosen", "What is chosen in the lists"}}};
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        mark_kinds_[i] = kinds->addAction(entries[i].second);
+        mark_kinds_[i]->setObjectName(entries[i].first);
+        mark_kinds_[i]->setCheckable(true);
+        mark_kinds_[i]->setChecked(true);
+        connect(mark_kinds_[i], &QAction::toggled, this, &ToolBar::Marks_changed);
+    }
+    auto* const button = qobject_cast<QToolButton*>(widgetForAction(Marks_));
+    button->setMenu(kinds);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    connect(Marks_, &QAction::toggled, this, &ToolBar::Marks_changed);
+}
+
+MarkKinds ToolBar::Wanted_marks() const {
+    const auto is_wanted = [this](std::size_t kind) {
+        return Marks_->isChecked() && mark_kinds_[kind]->isChecked();
+    };
+    return {is_wanted(0), is_wanted(1), is_wanted(2), is_wanted(3)};
 }
 
 void ToolBar::Show_history(const Document& document) {
@@ -76,7 +116,8 @@ void ToolBar::Show_zoom(const MapView& map) {
     ZoomReset_->setIconText(QString::fromStdString(map.Scale().Percent()));
     ZoomOut_->setEnabled(map.Has_map() && Previous_level(zoom) != zoom);
     ZoomIn_->setEnabled(map.Has_map() && Next_level(zoom) != zoom);
-    for (QAction* const action : {ZoomReset_, ZoomWhole_}) action->setEnabled(map.Has_map());
+    for (QAction* const action : {ZoomReset_, ZoomWhole_, Marks_, GoTo_, ShowChosen_})
+        action->setEnabled(map.Has_map());
 }
 
 }  // namespace tidemark

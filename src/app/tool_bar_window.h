@@ -1,8 +1,11 @@
 // The tool bar under the menu bar. What the menus do not hold is here.
 #pragma once
 
+#include <array>
+
 #include <QToolBar>
 
+#include "canvas/map_marks.h"
 #include "canvas/map_view_window.h"
 #include "model/document.h"
 
@@ -22,11 +25,23 @@ class ToolBar : public QToolBar {
     // Lets the zoom commands work on a map, which lives as long as the tool bar.
     void Zoom(MapView& map);
 
+    QAction& Marks() { return *Marks_; }
+    QAction& GoTo() { return *GoTo_; }
+    QAction& ShowChosen() { return *ShowChosen_; }
+    // Which marks are wanted; all off while the marks are.
+    MarkKinds Wanted_marks() const;
+
+  Q_SIGNALS:
+    void Marks_changed();
+
   private:
+    void Add_marks();
     void Show_zoom(const MapView& map);
 
     QAction* EditUndo_;
     QAction* EditRedo_;
+    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr;
+    std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds
     QAction* ZoomOut_;
     QAction* ZoomReset_;
     QAction* ZoomIn_;

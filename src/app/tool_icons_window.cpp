@@ -61,4 +61,43 @@ IconShapes ZoomWholeIcon() {
     return shapes;
 }
 
+// A grid with one cell filled.
+IconShapes MarksIcon() {
+    IconShapes shapes;
+    for (const double at : {4.0, 12.0, 20.0}) {
+        shapes.Strokes.moveTo(at, 4);
+        shapes.Strokes.lineTo(at, 20);
+        shapes.Strokes.moveTo(4, at);
+        shapes.Strokes.lineTo(20, at);
+    }
+    shapes.Fills.addRect(12, 4, 8, 8);
+    return shapes;
+}
+
+// A pin that stands on a place.
+IconShapes GoToIcon() {
+    IconShapes shapes;
+    shapes.Strokes.addEllipse(QPointF(12, 9), 5, 5);
+    shapes.Strokes.moveTo(8, 12.5);
+    shapes.Strokes.lineTo(12, 21);
+    shapes.Strokes.lineTo(16, 12.5);
+    shapes.Fills.addEllipse(QPointF(12, 9), 1.5, 1.5);
+    return shapes;
+}
+
+// A place in the middle of a frame.
+IconShapes ShowChosenIcon() {
+    IconShapes shapes;
+    shapes.Strokes.addEllipse(QPointF(12, 12), 6, 6);
+    for (const auto& [from, to] : {std::pair{QPointF(12, 2), QPointF(12, 7)},
+                                   {QPointF(12, 17), QPointF(12, 22)},
+                                   {QPointF(2, 12), QPointF(7, 12)},
+                                   {QPointF(17, 12), QPointF(22, 12)}}) {
+        shapes.Strokes.moveTo(from);
+        shapes.Strokes.lineTo(to);
+    }
+    shapes.Fills.addEllipse(QPointF(12, 12), 2, 2);
+    return shapes;
+}
+
 }  // namespace tidemark

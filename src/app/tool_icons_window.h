@@ -10,5 +10,8 @@ IconShapes RedoIcon();
 IconShapes ZoomOutIcon();
 IconShapes ZoomInIcon();
 IconShapes ZoomWholeIcon();
+IconShapes MarksIcon();
+IconShapes GoToIcon();
+IconShapes ShowChosenIcon();
 
 }  // namespace tidemark

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
+#include "canvas/qt_marks.h"
 #include "platform/qt_keys.h"
 
 namespace tidemark {
@@ -65,7 +66,10 @@ void MapCanvas::paintEvent(QPaintEvent* event) {
     const QRect visible = Visible_part();
     if (visible.contains(event->rect())) {
         Bring_up_to_date(visible);
-        QPainter(this).drawPixmap(visible.topLeft(), shown_);
+        QPainter painter(this);
+        painter.drawPixmap(visible.topLeft(), shown_);
+        Paint_marks(painter, marks_, visible, scale_.Zoom());
+        Paint_marks(painter, pointer_frame_, visible, scale_.Zoom());
         return;
     }
     // A picture may be taken of more than the viewport shows.
@@ -110,6 +114,17 @@ void MapCanvas::Bring_up_to_date(const QRect& visible) {
     QPainter painter(&shown_);
     painter.translate(-visible.topLeft());
     surface_.Paint(painter, visible, scale_.Zoom());
+}
+
+void MapCanvas::Show_marks(MapMarks marks) {
+    marks_ = std::move(marks);
+    update();
+}
+
+void MapCanvas::Show_pointer_frame(std::vector<MarkLine> frame) {
+    if (frame == pointer_frame_.Lines) return;
+    pointer_frame_.Lines = std::move(frame);
+    update();
 }
 
 void MapCanvas::Tell_pointer() {

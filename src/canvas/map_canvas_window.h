@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include "canvas/map_marks.h"
 #include "canvas/map_scale.h"
 #include "canvas/qt_map_picture.h"
 #include "canvas/qt_surface.h"
@@ -31,6 +32,10 @@ class MapCanvas : public QWidget {
     void Show_at(const MapScale& scale);
 
     DrawingSurface& Surface() { return surface_; }
+
+    // The layer above image and drawings; it does not touch what they look like.
+    void Show_marks(MapMarks marks);
+    void Show_pointer_frame(std::vector<MarkLine> frame);
 
   Q_SIGNALS:
     void Mouse_moved(float x, float y);  // canvas pixels
@@ -58,6 +63,8 @@ class MapCanvas : public QWidget {
     MapScale scale_;
     MapPicture picture_;
     QtSurface surface_;
+    MapMarks marks_;
+    MapMarks pointer_frame_;
 
     // What the viewport shows, as the screen's own pixels: the image alone, so that scrolling
     // computes only what comes into view, and with the drawings, so that uncovering paints no line

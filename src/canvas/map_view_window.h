@@ -42,6 +42,8 @@ class MapView : public QWidget {
     void Zoom_out();
     void Zoom_reset();
     void Zoom_whole();
+    // Scrolls so that a canvas pixel lies in the middle, as far as the map goes.
+    void Center_on(CanvasPoint pixel);
 
     // Where the mouse and the keys arrive, and what is drawn on.
     MapCanvas& Canvas() { return *Picture2_; }

@@ -44,6 +44,12 @@ void MapView::Zoom_to(double zoom, ScreenPoint fixed) {
     Q_EMIT Zoom_changed();
 }
 
+void MapView::Center_on(CanvasPoint pixel) {
+    MapScale scale = scale_;
+    scale.Put(pixel, Middle());
+    Pan_to(scale.Left(), scale.Top());
+}
+
 void MapView::Pan_to(int left, int top) {
     Move_to(qBound(0, left, HScroll1_->maximum()), qBound(0, top, VScroll1_->maximum()));
     Turn_bars();

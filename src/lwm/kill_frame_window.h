@@ -21,6 +21,7 @@ class KillFrame : public QGroupBox {
     void Refresh();
 
   Q_SIGNALS:
+    void Show_wanted();        // the map is to show what is selected
     void Graphics_outdated();  // another entry was selected, and the map has to be drawn again
 
   private:

@@ -22,7 +22,14 @@ LWMFrame::LWMFrame(Document& document, Session& session, Messages& messages, QWi
       PolyHeightText_(Named_field("PolyHeightText", "Height in metres", "0")),
       ConformOption_(Named<QRadioButton>("ConformOption", "Conform to existing terrain")) {
     Lay_out();
-    connect(LWMlistBox_, &ListBox::Clicked, this, &LWMFrame::Graphics_outdated);
+    connect(LWMlistBox_, &ListBox::Clicked, this, [this] {
+        session_.LastChosen = ListKind::Polygons;
+        Q_EMIT Graphics_outdated();
+    });
+    connect(LWMlistBox_, &ListBox::Double_clicked, this, [this] {
+        session_.LastChosen = ListKind::Polygons;
+        Q_EMIT Show_wanted();
+    });
     connect(ConformOption_, &QRadioButton::toggled, PolyHeightText_, &QLineEdit::setDisabled);
     ConformOption_->setChecked(true);
 }

@@ -27,6 +27,7 @@ class LWMFrame : public QGroupBox {
     void Refresh();
 
   Q_SIGNALS:
+    void Show_wanted();        // the map is to show what is selected
     void Graphics_outdated();  // another polygon was selected, and the map has to be drawn again
     // One quiet line about the polygon that was added; empty when there is nothing to say.
     void Remarked(const QString& text);

@@ -32,6 +32,9 @@ struct OpenedState {
     bool operator==(const OpenedState&) const = default;
 };
 
+// The three lists of the Status panel.
+enum class ListKind { Points, Polygons, ClearedCells };
+
 struct Session {
     bool DataChanged = false;           // there are changes that are not saved
     Int16 DrawMode;                     // code of the last left click's drawing mode
@@ -45,6 +48,8 @@ struct Session {
     Int16 CursorInCellX, CursorInCellY;  // cell units, limited to 0..255
 
     std::string ChosenPath;  // that the user chose last to save the project to; empty: none
+
+    ListKind LastChosen = ListKind::Points;  // the list in which a line was chosen last
 
     PanelState Panel;
     OpenedState Opened;

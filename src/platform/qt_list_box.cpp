@@ -58,6 +58,7 @@ ListBox::ListBox(const QString& name, const QString& spoken, ListContent content
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+    connect(this, &QListView::doubleClicked, this, &ListBox::Double_clicked);
 }
 
 int ListBox::Selected() const {

@@ -39,7 +39,8 @@ class ListBox : public QListView {
     void keyboardSearch(const QString&) override {}
 
   Q_SIGNALS:
-    void Clicked();  // the user has selected another line
+    void Clicked();         // the user has selected another line
+    void Double_clicked();  // on a line, which is selected then
 
   protected:
     QSize sizeHint() const override;
