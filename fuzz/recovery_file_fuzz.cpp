@@ -33,7 +33,10 @@ void Read_damaged(std::uint8_t place, std::uint8_t change) {
 }  // namespace tidemark
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    tidemark::Read_and_write({reinterpret_cast<const char*>(data), size});
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    tidemark::Read_and_write(bytes);
+    // Behind the checksum, which no change of the bytes would get past.
+    tidemark::Read_and_write(tidemark::With_checksum(std::string(bytes)));
     if (size > 1) tidemark::Read_damaged(data[size / 3], data[size / 2]);
     return 0;
 }

@@ -34,7 +34,7 @@ std::optional<std::string_view> Take_line(std::string_view& bytes) {
 std::optional<UnsavedWork> Read_work(std::string_view bytes) {
     const auto path = Take_line(bytes);
     const auto time = Take_line(bytes);
-    if (!path || !time) return std::nullopt;
+    if (!path || !time || !Is_savable(*path) || !Is_savable(*time)) return std::nullopt;
     auto project = std::make_unique<Project>();
     if (Read_project(bytes, *project).Error) return std::nullopt;
     return UnsavedWork{std::string(*path), std::string(*time), std::move(project)};
@@ -44,13 +44,17 @@ std::optional<UnsavedWork> Read_work(std::string_view bytes) {
 
 std::string Recovery_file_bytes(const std::string& project_path, std::string_view time,
                                 const Project& work) {
-    LineWriter work_lines, lines;
+    LineWriter work_lines;
     work_lines.Write_line(Is_savable(project_path) ? project_path : "");
     work_lines.Write_line(time);
-    const std::string bytes = work_lines.Take_bytes() + Project_bytes(work, time);
+    return With_checksum(work_lines.Take_bytes() + Project_bytes(work, time));
+}
+
+std::string With_checksum(const std::string& content) {
+    LineWriter lines;
     lines.Write_line(Title, Version);
-    lines.Write_line(Checksum(bytes));
-    return lines.Take_bytes() + bytes;
+    lines.Write_line(Checksum(content));
+    return lines.Take_bytes() + content;
 }
 
 RecoveryFileReading Read_recovery_file(std::string_view bytes) {

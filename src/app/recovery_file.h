@@ -39,6 +39,9 @@ struct RecoveryFileReading {
 std::string Recovery_file_bytes(const std::string& project_path, std::string_view time,
                                 const Project& work);
 
+// The file that has this content behind its first two lines.
+std::string With_checksum(const std::string& content);
+
 // Takes any bytes at all.
 RecoveryFileReading Read_recovery_file(std::string_view bytes);
 
