@@ -113,7 +113,7 @@ class TidemarkMain : public QMainWindow {
     void Watch_project();
     void Say(const std::string& text);
     void Remark(const QString& text);
-    void Session_ends();
+    Q_INVOKABLE void Session_ends();
     void Offer_lost_work();
     void End_from_outside(int signals);
     void Run_after_save(const AfterSaveTask& task);

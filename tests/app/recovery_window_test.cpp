@@ -65,8 +65,54 @@ TEST_F(RecoveryWindowTest, RecoveredWorkIsTheProjectUnsavedUntilItIsSavedOrUndon
     EXPECT_EQ(Left(), 0U) << "this editor has it";
     window_.findChild<QAction*>("EditUndo")->trigger();
     EXPECT_TRUE(window_.Current_project() == Project());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(DiskFiles().Exists(folder_ / "state/1.recovery")) << "nobody has given it up";
     window_.findChild<QAction*>("EditRedo")->trigger();
     EXPECT_TRUE(window_.Current_project() == lost_);
+}
+
+// A box of the opening is up when the offer is due.
+TEST_F(RecoveryWindowTest, WorkIsOfferedAfterTheProjectThatWasAskedForIsOpen) {
+    Lose(lost_);
+    Project given;
+    given.BackgroundFile = folder_ / "gone.bmp";
+    given.BackgroundLoaded = true;
+    given.ProjectFile = folder_ / "a.TDM";
+    Write_file(given.ProjectFile, Project_bytes(given, "then"));
+    plan_.Then([](QWidget& warning) {
+        QTest::qWait(300);
+        Press(warning, Qt::Key_Return);
+    });
+    Answer("RecoverButton");
+    window_.show();
+    window_.Keep_work_in(folder_ / "state");
+    window_.Open(QString::fromStdString(given.ProjectFile));
+    EXPECT_TRUE(window_.Current_project() == [&] {
+        Project opened = given;
+        opened.BackgroundLoaded = false;
+        return opened;
+    }());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window_.Current_project() == lost_; }, 3000));
+    EXPECT_NO_THROW(plan_.Finish());
+    EXPECT_TRUE(window_.Current_session().DataChanged);
+    EXPECT_TRUE(DiskFiles().Exists(folder_ / "state/1.recovery"));
+    window_.findChild<QAction*>("EditUndo")->trigger();
+    EXPECT_EQ(window_.windowTitle(), "Tidemark - A.TDM");
+}
+
+TEST_F(RecoveryWindowTest, ALogoutThatIsCancelledAsksAgain) {
+    Start();
+    Write_file(folder_ / "a.TDM", Project_bytes(lost_, "then"));
+    window_.Open(QString::fromStdString(folder_ / "a.TDM"));
+    auto& list = Control<ListBox>(window_, "VTPlistbox");
+    Press(list, Qt::Key_Down);
+    Click(Control<QPushButton>(window_, "ReverseButton"));
+    QMetaObject::invokeMethod(&window_, "Session_ends");
+    EXPECT_TRUE(DiskFiles().Exists(folder_ / "state/1.recovery")) << "written at once";
+    Press(list, Qt::Key_Delete);  // the user goes on
+    plan_.Then_answer(QMessageBox::No);
+    EXPECT_FALSE(window_.close());
+    EXPECT_NO_THROW(plan_.Finish());
 }
 
 TEST_F(RecoveryWindowTest, LaterKeepsItAndDiscardRemovesIt) {
