@@ -62,8 +62,8 @@ QImage Half(const QImage& image) {
             const QRgb* const upper = Row(strip, y);
             const QRgb* const lower = Row(strip, std::min(y + 1, rows - 1));
             QRgb* const to = Row(half, (top + y) / 2);
-            for (int x = 0; x < width / 2; ++x)
-                to[x] = Mean(upper[2 * x], upper[2 * x + 1], lower[2 * x], lower[2 * x + 1]);
+            for (int x = 0, from = 0; x < width / 2; ++x, from += 2)
+                to[x] = Mean(upper[from], upper[from + 1], lower[from], lower[from + 1]);
             if (width % 2)
                 to[width / 2] =
                     Mean(upper[width - 1], upper[width - 1], lower[width - 1], lower[width - 1]);
