@@ -43,10 +43,11 @@ GoTo::GoTo(QWidget* owner) : QDialog(owner), RemarkLabel_(Named<QLabel>("RemarkL
 
 void GoTo::Lay_out() {
     auto* const grid = new QGridLayout(this);
-    for (int row = 0; row < 3; ++row) {
-        grid->addWidget(new QLabel(RowCaptions[static_cast<std::size_t>(row)]), row, 0);
-        for (int column = 0; column < 2; ++column)
-            grid->addWidget(fields_[static_cast<std::size_t>(2 * row + column)], row, column + 1);
+    for (std::size_t row = 0; row < RowCaptions.size(); ++row) {
+        const int line = static_cast<int>(row);
+        grid->addWidget(new QLabel(RowCaptions[row]), line, 0);
+        grid->addWidget(fields_[2 * row], line, 1);
+        grid->addWidget(fields_[2 * row + 1], line, 2);
     }
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     OkButton_ = buttons->button(QDialogButtonBox::Ok);
