@@ -29,7 +29,8 @@ int Pipe_of_ending_signals() {
     writing_end = ends[1];
     struct sigaction action {};
     action.sa_handler = Put_into_pipe;
-    action.sa_flags = SA_RESTART | SA_RESETHAND;  // a second one ends a program that hangs
+    action.sa_flags =
+        static_cast<int>(SA_RESTART | SA_RESETHAND);  // a second one ends a program that hangs
     for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT}) {
         struct sigaction before {};
         ::sigaction(signal, nullptr, &before);
