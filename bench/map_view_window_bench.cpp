@@ -1,5 +1,5 @@
-// Loading, resizing, scrolling and redrawing the map in a view of 1600 x 1000 pixels: scans of
-// 10,000 x 10,000, and the largest project that there can be.
+// Loading, resizing, scrolling and redrawing the map in a view of 1600 x 1000 pixels, zooming it in
+// one of 1920 x 1080: scans of 10,000 x 10,000, and the largest project that there can be.
 #include <memory>
 #include <random>
 
@@ -21,6 +21,7 @@ namespace tidemark {
 namespace {
 
 constexpr QSize WindowSize(1600, 1000);
+constexpr QSize LargeWindow(1920, 1080);
 
 // 999 points, 1000 cleared cells and 200 polygons of 200 points all over their cells: 47,000 lines.
 std::unique_ptr<Project> Busiest_project(QSize canvas) {
@@ -38,9 +39,9 @@ std::unique_ptr<Project> Busiest_project(QSize canvas) {
 }
 
 struct OpenMap {
-    explicit OpenMap(const Scan& scan, QSize size = {10000, 10000})
+    explicit OpenMap(const Scan& scan, QSize size = {10000, 10000}, QSize window = WindowSize)
         : project(Busiest_project(size)) {
-        view.resize(WindowSize);
+        view.resize(window);
         view.show();
         view.Show_image(scan.Path());
         Redraw();
@@ -81,16 +82,63 @@ void Resize(benchmark::State& state) {
     }
 }
 
-void Scroll(benchmark::State& state, const char* format) {
-    OpenMap map(Scan::Large(format));
+void Scroll_at(benchmark::State& state, OpenMap& map, int length) {
     auto& across = *map.view.findChild<QScrollBar*>("HScroll1");
     auto& down = *map.view.findChild<QScrollBar*>("VScroll1");
     int way = 0;
     for (auto _ : state) {
-        way = (way + 48) % 8000;
-        across.setValue(way);
-        down.setValue(way);
+        way = (way + 48) % length;
+        across.setValue(way % qMax(across.maximum(), 1));
+        down.setValue(way % qMax(down.maximum(), 1));
         QCoreApplication::processEvents();
+    }
+}
+
+void Scroll(benchmark::State& state, const char* format) {
+    OpenMap map(Scan::Large(format));
+    Scroll_at(state, map, 8000);
+}
+
+void Scroll_zoomed(benchmark::State& state, const char* level) {
+    OpenMap map(Scan::Large("jpeg"), {10000, 10000}, LargeWindow);
+    const auto step = level[2] == ' ' ? &MapView::Zoom_out : &MapView::Zoom_in;
+    while (map.view.Scale().Percent() != level) (map.view.*step)();
+    QCoreApplication::processEvents();
+    Scroll_at(state, map, 80000);
+}
+
+// From 100 % to the smallest level, to the largest and back; the halves of the picture are there.
+void Zoom(benchmark::State& state) {
+    OpenMap map(Scan::Large("jpeg"), {10000, 10000}, LargeWindow);
+    map.view.Zoom_whole();
+    QCoreApplication::processEvents();
+    map.view.Zoom_reset();
+    QCoreApplication::processEvents();
+    auto step = &MapView::Zoom_out;
+    for (auto _ : state) {
+        const double before = map.view.Scale().Zoom();
+        (map.view.*step)();
+        if (map.view.Scale().Zoom() == before)
+            step = step == &MapView::Zoom_out ? &MapView::Zoom_in : &MapView::Zoom_out;
+        QCoreApplication::processEvents();
+    }
+}
+
+void First_shrunk_view(benchmark::State& state) {
+    const std::string& path = Scan::Large("jpeg").Path();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto view = std::make_unique<MapView>();
+        view->resize(LargeWindow);
+        view->show();
+        view->Show_image(path);
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        view->Zoom_whole();
+        QCoreApplication::processEvents();
+        state.PauseTiming();
+        view.reset();
+        state.ResumeTiming();
     }
 }
 
@@ -169,8 +217,8 @@ void Move_mouse(benchmark::State& state) {
 }
 
 template <class Function, class... Arguments>
-void Register(const char* name, Function function, Arguments... arguments) {
-    benchmark::RegisterBenchmark(name, function, arguments...)->UseRealTime();
+auto* Register(const char* name, Function function, Arguments... arguments) {
+    return benchmark::RegisterBenchmark(name, function, arguments...)->UseRealTime();
 }
 
 const bool registered = [] {
@@ -181,6 +229,13 @@ const bool registered = [] {
     Register("resizing the window over the JPEG [16 ms]|tidemark", Resize);
     Register("a frame of scrolling the JPEG [16 ms]|tidemark", Scroll, "jpeg");
     Register("a frame of scrolling the 8-bit BMP [16 ms]|tidemark", Scroll, "bmp");
+    Register("a frame of scrolling it at 25 % [16 ms]|tidemark", Scroll_zoomed, "25 %");
+    Register("a frame of scrolling it at 50 % [16 ms]|tidemark", Scroll_zoomed, "50 %");
+    Register("a frame of scrolling it at 200 % [16 ms]|tidemark", Scroll_zoomed, "200 %");
+    Register("a frame of scrolling it at 800 % [16 ms]|tidemark", Scroll_zoomed, "800 %");
+    Register("a zoom step of the JPEG with its redraw [33 ms]|tidemark", Zoom)->Iterations(60);
+    Register("first view of the whole JPEG [0.5x]|tidemark", First_shrunk_view);
+    Register("first view of the whole JPEG [0.5x]|Qt's decoding", Decode, "jpeg");
     Register("redrawing 47,000 lines in the window [1.3x]|tidemark", Redraw);
     Register("redrawing 47,000 lines in the window [1.3x]|QPainter", Hand_to_painter);
     Register("uncovering them|tidemark", Uncover);

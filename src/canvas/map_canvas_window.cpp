@@ -52,7 +52,10 @@ void MapCanvas::Show_at(const MapScale& scale) {
     scale_ = scale;
     is_shown_outdated_ = true;
     const ViewSize size = scale.Shown_size({Image_size().width(), Image_size().height()});
+    // All of it is painted anew. Of an opaque widget Qt would first move what is on the screen.
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
     setGeometry(-scale.Left(), -scale.Top(), size.Width, size.Height);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     update();
     // The pointer is now over another place, without having moved.
     if (is_zoomed) Tell_pointer();
