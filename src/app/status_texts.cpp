@@ -1,5 +1,6 @@
 #include "app/status_texts.h"
 
+#include "canvas/map_frame.h"
 #include "georef/geo_position.h"
 
 namespace tidemark {
@@ -16,10 +17,6 @@ std::string Count_text(const std::string& what, int count, int most) {
 
 VTPPlace Cursor_place(const Session& session) {
     return {session.CursorVTPX, session.CursorVTPY};
-}
-
-bool Has_scale(const Project& project) {
-    return project.ScaleX > 0 && project.ScaleY > 0;
 }
 
 }  // namespace

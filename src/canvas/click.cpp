@@ -1,5 +1,7 @@
 #include "canvas/click.h"
 
+#include "canvas/map_frame.h"
+
 namespace tidemark {
 
 std::optional<Adds> Take_left_click(const Project& project, Session& session,
@@ -12,8 +14,7 @@ std::optional<Adds> Take_left_click(const Project& project, Session& session,
     }
     session.DrawMode = mode->Code;
     // The cursor has never been anywhere on such a map.
-    const bool has_scale = project.ScaleX > 0 && project.ScaleY > 0;
-    return has_scale ? std::optional(mode->What) : std::nullopt;
+    return Has_scale(project) ? std::optional(mode->What) : std::nullopt;
 }
 
 }  // namespace tidemark

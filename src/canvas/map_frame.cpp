@@ -42,7 +42,7 @@ CanvasPoint Cell_to_canvas(const Project& project, Int16 column, Int16 row, Int1
 }
 
 std::optional<CursorTexts> Move_cursor(const Project& p, Session& session, float x, float y) {
-    if (!(p.ScaleX > 0 && p.ScaleY > 0)) return std::nullopt;
+    if (!Has_scale(p)) return std::nullopt;
     AxisCursor across, down;
     try {
         across = Cursor_on_axis(x, p.ScaleX, p.AreaLeftVTP, p.BGLOD13tlX);

@@ -14,6 +14,11 @@
 
 namespace tidemark {
 
+// Whether the map has a place at all: without scale no pixel means anything.
+inline bool Has_scale(const Project& project) {
+    return project.ScaleX > 0 && project.ScaleY > 0;
+}
+
 // The pixel of a position in VTP units.
 CanvasPoint VTP_to_canvas(const Project& project, Int16 x, Int16 y);
 

@@ -19,10 +19,6 @@ constexpr Colour Light{255, 255, 255};
 constexpr int EdgeWidth = 1;
 constexpr int ChosenWidth = 5;
 
-bool Has_scale(const Project& p) {
-    return p.ScaleX > 0 && p.ScaleY > 0;
-}
-
 CanvasPoint VTP_point(const Project& p, int i) {
     return VTP_to_canvas(p, p.VTPPoint(i, 0), p.VTPPoint(i, 1));
 }
