@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "model/limits.h"
+#include "coast/position.h"
 
 namespace tidemark {
 
@@ -18,9 +18,6 @@ struct GeoPoint {
 
 using GeoLine = std::vector<GeoPoint>;
 
-// VTP units or LOD13 cells, by axis: 0 is X or column, 1 is Y or row.
-using Position = std::array<int, 2>;
-
 inline constexpr int SampleLOD8X = 122;
 inline constexpr int SampleLOD8Y = 148;
 inline constexpr double WestLongitude = SampleLOD8X * LOD8DegreesEast - 180;
@@ -28,7 +25,6 @@ inline constexpr double NorthLatitude = 90 - SampleLOD8Y * LOD8DegreesSouth;
 
 // The whole LOD8 cell, in VTP units.
 inline constexpr int AreaSize = (LastLOD13 + 1) * CellSizeVTP;
-inline constexpr int LastVTP = FirstVTP + AreaSize - 1;
 
 // Width and height of the background picture, which shows the whole cell.
 inline constexpr int PictureSize = 2048;
@@ -47,6 +43,12 @@ inline Position VTP_position(GeoPoint point) {
         position[axis] = std::clamp(static_cast<int>(std::lround(value)), FirstVTP, LastVTP);
     }
     return position;
+}
+
+inline std::vector<Position> VTP_positions(const GeoLine& line) {
+    std::vector<Position> positions;
+    for (const GeoPoint& point : line) positions.push_back(VTP_position(point));
+    return positions;
 }
 
 inline GeoPoint Geo_point(Position position) {

@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "cell_path.h"
+#include "coast/cell_path.h"
 #include "golden_gate.h"
 #include "lwm/polygon_builder.h"
 #include "model/cell_frame.h"
@@ -60,7 +60,7 @@ bool On_map_edge(Position position) {
 
 // One segment for each stretch of one kind of coast; they join where the line enters a cell.
 void Add_coast(Project& project, const GeoLine& line) {
-    const CellPath path = Cut_at_cell_edges(line);
+    const CellPath path = Cut_at_cell_edges(Placed(VTP_positions(line)));
     if (!On_map_edge(path.Points.front()) || !On_map_edge(path.Points.back()))
         throw std::runtime_error("A coastline ends inside the map.");
 
@@ -101,7 +101,7 @@ void Add_cleared_cells(Project& project) {
         for (int i = segment.First; Is_coastline(segment.Mode) && i <= segment.Last; ++i)
             clear_under(segment.Mode, {project.VTPPoint(i, 0), project.VTPPoint(i, 1)});
     for (const DrawnLine& line : Roads_and_streams())
-        for (const Position& point : Cut_at_cell_edges(line.Line).Points)
+        for (const Position& point : Cut_at_cell_edges(Placed(VTP_positions(line.Line))).Points)
             clear_under(line.Mode, point);
 
     for (const auto& [code, row, column] : cells) {
@@ -147,9 +147,10 @@ std::unique_ptr<Project> Sample_project(const std::vector<GeoLine>& coast) {
     Name_files(*project);
     for (const GeoLine& line : coast) Add_coast(*project, line);
     for (const GeoLine& island : Islands())
-        Add_segment(*project, Cut_ring(island), Coast_mode(island.front()), CoastWidth);
+        Add_segment(*project, Cut_ring(Placed(VTP_positions(island))), Coast_mode(island.front()),
+                    CoastWidth);
     for (const DrawnLine& line : Roads_and_streams())
-        Add_segment(*project, Placed(line.Line), line.Mode, line.Width);
+        Add_segment(*project, Placed(VTP_positions(line.Line)), line.Mode, line.Width);
     Repair_segments(*project);
     Add_cleared_cells(*project);
     Add_polygons(*project);

@@ -17,7 +17,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "geography.h"
+#include "coast/position.h"
 
 namespace tidemark {
 
@@ -36,18 +36,30 @@ struct CellPath {
     std::vector<CellCrossing> Crossings;
 };
 
-// The line in VTP units, its points clear of the cell edges but not cut.
-std::vector<Position> Placed(const GeoLine& line);
+// The line (VTP units) with its points clear of the cell edges, but not cut.
+std::vector<Position> Placed(const std::vector<Position>& line);
 
-// The line in VTP units, cut as above.
-CellPath Cut_at_cell_edges(const GeoLine& line);
+// A place moved off the cell edges by as much as a point keeps clear of them, in its own cell.
+Position Off_cell_edges(Position place);
 
-// A closed line, whose last point is its first one: cut, and turned so that it starts and ends on
-// the first cell edge that it crosses. Throws std::runtime_error for a ring inside one cell, which
-// the builder could only take for a polygon of its own.
-std::vector<Position> Cut_ring(const GeoLine& ring);
+// A placed line, cut as above.
+CellPath Cut_at_cell_edges(const std::vector<Position>& placed);
 
-// The LOD13 column and row of a position.
-Position Cell_of(Position position);
+// A closed line that is placed, whose last point is its first one: cut, and turned so that it
+// starts and ends on the first cell edge that it crosses. Throws std::runtime_error for a ring
+// inside one cell, which the builder could only take for a polygon of its own.
+std::vector<Position> Cut_ring(const std::vector<Position>& placed);
+
+// The points that a straight step between two points wants between them, so that each cell edge is
+// crossed as above. A step that crosses no edge wants none. An end that lies on the very edge that
+// is crossed next to it stays the last (first) point there. `aside` moves the crossings along their
+// edges by so many units.
+std::vector<Position> Cut_of_step(Position from, Position to, int aside = 0);
+
+// Where the step crosses the first cell edge on its way: the coordinate along that edge.
+double First_crossing(Position from, Position to);
+
+// The cells that a straight step passes between the cells of its two ends, in their order.
+std::vector<LOD13Cell> Cells_between(Position from, Position to);
 
 }  // namespace tidemark
