@@ -52,7 +52,7 @@ void Fill(Project& project, std::span<const std::uint8_t> bytes) {
 }
 
 void Check_polygon(const Project& project) {
-    const Outline outline = LWM_outline(project, project.LWMCount);
+    const Outline outline = Stored_outline(project, project.LWMCount);
     Check(!outline.empty(), "a polygon has vertices");
     Check(std::all_of(outline.begin(), outline.end(),
                       [](CellPoint p) {

@@ -48,7 +48,7 @@ bool CellEdges::Point_in_cell(int i) {
     return true;
 }
 
-void CellEdges::Add_Edge_Point(CellPoint place, EdgeType type, bool linked) {
+void CellEdges::Add_Edge_Point(int i, CellPoint place, EdgeType type, bool linked) {
     if (EdgePointCount == MaxEdgePointCount) {
         EdgePointsLost = true;
         return;
@@ -56,6 +56,7 @@ void CellEdges::Add_Edge_Point(CellPoint place, EdgeType type, bool linked) {
     ++EdgePointCount;
     EdgePoint(EdgePointCount) = place;
     EdgePointType(EdgePointCount) = type;
+    EdgePointOrigin(EdgePointCount) = i;
     Set_link(EdgePointCount, linked ? EdgePointCount - 1 : 0);
 }
 
@@ -66,7 +67,7 @@ void CellEdges::Add_Edge_Crossing(int i, bool linked) {
     const CellPoint inside = PointInCell();
     const CellPoint a = enters ? inside : CellPoint{inside.X + ddx, inside.Y + ddy};
     const CellPoint outside = enters ? CellPoint{a.X - ddx, a.Y - ddy} : a;
-    Add_Edge_Point(Crossing(a, outside, ddx, ddy), EdgeType::Boundary, linked);
+    Add_Edge_Point(i, Crossing(a, outside, ddx, ddy), EdgeType::Boundary, linked);
 }
 
 void CellEdges::Set_link(int e, int before) {

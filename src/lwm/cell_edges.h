@@ -61,9 +61,10 @@ class CellEdges {
     // The position of the last point that was found in the cell.
     CellPoint PointInCell() const { return {project_.PointInCellX, project_.PointInCellY}; }
 
-    // Appends an edge point. Linked, it goes on from the edge point added before it; otherwise it
-    // begins a chain. One too many is not stored, and EdgePointsLost tells of it.
-    void Add_Edge_Point(CellPoint place, EdgeType type, bool linked);
+    // Appends an edge point that comes from VTP point i. Linked, it goes on from the edge point
+    // added before it; otherwise it begins a chain. One too many is not stored, and EdgePointsLost
+    // tells of it.
+    void Add_Edge_Point(int i, CellPoint place, EdgeType type, bool linked);
 
     // Appends the place where the step from VTP point i - 1 to point i crosses the boundary. One of
     // the two is inside the cell; where that is i - 1, it was the last point found there. Throws
@@ -74,6 +75,9 @@ class CellEdges {
     bool EdgePointsLost = false;
     Table<CellPoint, MaxEdgePointCount> EdgePoint;
     Table<EdgeType, MaxEdgePointCount> EdgePointType;
+    // The VTP point that an edge point is, or at which the step ends that crosses the boundary
+    // here.
+    Table<int, MaxEdgePointCount> EdgePointOrigin;
 
     // The edge point before e in its chain; 0 when e begins it.
     int EdgePointLink(int e) const { return link_(e); }

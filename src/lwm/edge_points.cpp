@@ -19,8 +19,8 @@ class CoastWalk {
 
     void First_point(int i) {
         const Place place = Place_of(i);
-        if (place == Place::Inside) Add_point(EdgeType::Terminal, false);
-        if (place == Place::OnBoundary) Add_point(EdgeType::Boundary, false);
+        if (place == Place::Inside) Add_point(i, EdgeType::Terminal, false);
+        if (place == Place::OnBoundary) Add_point(i, EdgeType::Boundary, false);
         outside_ = place == Place::Outside;
     }
 
@@ -28,11 +28,11 @@ class CoastWalk {
         switch (Place_of(i)) {
             case Place::Inside:
                 if (outside_) edges_.Add_Edge_Crossing(i, false);
-                Add_point(EdgeType::Interior, true);
+                Add_point(i, EdgeType::Interior, true);
                 outside_ = false;
                 break;
             case Place::OnBoundary:
-                Add_point(EdgeType::Boundary, !outside_);
+                Add_point(i, EdgeType::Boundary, !outside_);
                 outside_ = !outside_;
                 break;
             case Place::Outside:
@@ -45,10 +45,10 @@ class CoastWalk {
         switch (Place_of(i)) {
             case Place::Inside:
                 if (outside_) edges_.Add_Edge_Crossing(i, false);
-                Add_point(EdgeType::Terminal, true);
+                Add_point(i, EdgeType::Terminal, true);
                 break;
             case Place::OnBoundary:
-                if (!outside_) Add_point(EdgeType::Boundary, true);
+                if (!outside_) Add_point(i, EdgeType::Boundary, true);
                 break;
             case Place::Outside:
                 if (!outside_) edges_.Add_Edge_Crossing(i, true);
@@ -61,8 +61,8 @@ class CoastWalk {
         return Is_on_boundary(edges_.PointInCell()) ? Place::OnBoundary : Place::Inside;
     }
 
-    void Add_point(EdgeType type, bool linked) {
-        edges_.Add_Edge_Point(edges_.PointInCell(), type, linked);
+    void Add_point(int i, EdgeType type, bool linked) {
+        edges_.Add_Edge_Point(i, edges_.PointInCell(), type, linked);
     }
 
     CellEdges& edges_;

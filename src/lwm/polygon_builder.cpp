@@ -56,13 +56,9 @@ double Score(const Outline& outline, CellPoint click) {
     return sum / static_cast<double>(outline.size());
 }
 
-bool Is_in_cell(CellPoint p) {
-    return p.X >= 0 && p.X <= LastCellUnit && p.Y >= 0 && p.Y <= LastCellUnit;
-}
-
 // False after a warning.
 bool Check_outline(const Outline& outline, const Project& project, Messages& messages) {
-    if (!std::all_of(outline.begin(), outline.end(), Is_in_cell)) {
+    if (!Is_in_cell(outline)) {
         Warn(messages,
              "There is an invalid point in this polygon - it has not been added to the LWM list.\n"
              "This is most likely due to a coast segment passing through an LOD13 cell WITHOUT a "
@@ -89,22 +85,6 @@ bool Is_in_box(CellPoint a, CellPoint b, CellPoint place) {
            Min_int(a.Y, b.Y) <= place.Y && place.Y <= Max_int(a.Y, b.Y);
 }
 
-void Append(Project& project, const Session& session, const Outline& outline, Int16 height) {
-    const int polygon = project.LWMCount + 1;
-    int k = 0;
-    for (const CellPoint& vertex : outline) {
-        ++k;
-        project.LWMPoint(polygon, k, 0) = vertex.X;
-        project.LWMPoint(polygon, k, 1) = vertex.Y;
-    }
-    project.LWMPointCount(polygon) = k;
-    project.LWMType(polygon) = session.DrawMode;
-    project.LWMCell(polygon, 0) = session.CursorCellX;
-    project.LWMCell(polygon, 1) = session.CursorCellY;
-    project.LWMHeight(polygon) = height;
-    project.LWMCount = polygon;
-}
-
 }  // namespace
 
 std::optional<int> Best_candidate(const std::vector<Outline>& candidates, CellPoint click) {
@@ -121,6 +101,35 @@ std::optional<int> Best_candidate(const std::vector<Outline>& candidates, CellPo
         best_score = score;
     }
     return best;
+}
+
+bool Is_in_cell(const Outline& outline) {
+    return std::all_of(outline.begin(), outline.end(), [](CellPoint p) {
+        return p.X >= 0 && p.X <= LastCellUnit && p.Y >= 0 && p.Y <= LastCellUnit;
+    });
+}
+
+void Store_polygon(Project& project, int polygon, Int16 column, Int16 row, PolygonKind kind,
+                   const Outline& outline) {
+    int k = 0;
+    for (const CellPoint& vertex : outline) {
+        ++k;
+        project.LWMPoint(polygon, k, 0) = vertex.X;
+        project.LWMPoint(polygon, k, 1) = vertex.Y;
+    }
+    project.LWMPointCount(polygon) = k;
+    project.LWMType(polygon) = kind.Type;
+    project.LWMCell(polygon, 0) = column;
+    project.LWMCell(polygon, 1) = row;
+    project.LWMHeight(polygon) = kind.Height;
+    project.LWMCount = Max_int(project.LWMCount, polygon);
+}
+
+Outline Stored_outline(const Project& project, int polygon) {
+    Outline outline;
+    for (int k = 1; k <= project.LWMPointCount(polygon); ++k)
+        outline.push_back({project.LWMPoint(polygon, k, 0), project.LWMPoint(polygon, k, 1)});
+    return outline;
 }
 
 bool Surrounds(const Outline& outline, CellPoint place) {
@@ -154,7 +163,8 @@ LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& m
     }
     const Outline& outline = candidates[static_cast<std::size_t>(*best - 1)];
     if (!Check_outline(outline, project, messages)) return result;
-    Append(project, session, outline, *height);
+    Store_polygon(project, project.LWMCount + 1, session.CursorCellX, session.CursorCellY,
+                  {session.DrawMode, *height}, outline);
     result.Added = true;
     if (!Surrounds(outline, click))
         result.StatusLine = "The polygon that was added does not surround the place clicked.";

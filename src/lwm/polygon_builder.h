@@ -39,6 +39,23 @@ LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& m
 // the first of equals. Nothing when no box has the click inside.
 std::optional<int> Best_candidate(const std::vector<Outline>& candidates, CellPoint click);
 
+// Every vertex is in the cell: a polygon with another one is refused.
+bool Is_in_cell(const Outline& outline);
+
+// What a polygon is besides its outline.
+struct PolygonKind {
+    Int16 Type;    // WaterPolygon or LandPolygon
+    Int16 Height;  // metres 0..10000, or ConformsHeight
+    bool operator==(const PolygonKind&) const = default;
+};
+
+// Makes the outline polygon number `polygon` of the project, which may be the one after its last.
+void Store_polygon(Project& project, int polygon, Int16 column, Int16 row, PolygonKind kind,
+                   const Outline& outline);
+
+// The vertices of a polygon of the project.
+Outline Stored_outline(const Project& project, int polygon);
+
 // Inside the outline, or on it.
 bool Surrounds(const Outline& outline, CellPoint place);
 

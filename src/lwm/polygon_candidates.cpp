@@ -185,6 +185,10 @@ std::vector<Outline> Candidate_polygons(Project& project, const Session& session
                                         Messages& messages) {
     CellEdges edges(project, session, messages);
     Collect_edge_points(edges, project);
+    return Candidates_from(edges, messages);
+}
+
+std::vector<Outline> Candidates_from(CellEdges& edges, Messages& messages) {
     if (edges.EdgePointsLost) {
         Warn(messages, "The polygon has not been added: the coastlines may have at most " +
                            Int_text(MaxEdgePointCount) + " points in one LOD13 cell.");

@@ -22,4 +22,7 @@ namespace tidemark {
 std::vector<Outline> Candidate_polygons(Project& project, const Session& session,
                                         Messages& messages);
 
+// The same from the edge points that Collect_edge_points has found, which it takes apart.
+std::vector<Outline> Candidates_from(CellEdges& edges, Messages& messages);
+
 }  // namespace tidemark

@@ -10,81 +10,6 @@ namespace tidemark {
 
 namespace {
 
-// Each table, told alike: how many entries it has, one entry, and setting one.
-
-struct Points {
-    using Record = VTPRecord;
-    // The slot behind the last point starts no segment, as after every refresh of the list.
-    static void Set_count(Project& p, int count) {
-        p.VTPCount = count;
-        p.VTPSegStart(count + 1) = false;
-    }
-    static int Count(const Project& p) { return p.VTPCount; }
-    static bool Equal(const Project& a, int i, const Project& b, int j) {
-        return Get(a, i) == Get(b, j);
-    }
-    static VTPRecord Get(const Project& p, int i) {
-        return {p.VTPPoint(i, 0), p.VTPPoint(i, 1), p.VTPSegStart(i),
-                p.VTPSegEnd(i),   p.VTPMode(i),     p.VTPWidth(i)};
-    }
-    static void Set(Project& p, int i, const VTPRecord& point) {
-        p.VTPPoint(i, 0) = point.X;
-        p.VTPPoint(i, 1) = point.Y;
-        p.VTPSegStart(i) = point.SegStart;
-        p.VTPSegEnd(i) = point.SegEnd;
-        p.VTPMode(i) = point.Mode;
-        p.VTPWidth(i) = point.Width;
-    }
-};
-
-struct ClearedCells {
-    using Record = KillRecord;
-    static void Set_count(Project& p, int count) { p.KillCount = count; }
-    static int Count(const Project& p) { return p.KillCount; }
-    static bool Equal(const Project& a, int i, const Project& b, int j) {
-        return Get(a, i) == Get(b, j);
-    }
-    static KillRecord Get(const Project& p, int i) {
-        return {p.KillCell(i, 0), p.KillCell(i, 1), p.KillType(i)};
-    }
-    static void Set(Project& p, int i, const KillRecord& cell) {
-        p.KillCell(i, 0) = cell.Column;
-        p.KillCell(i, 1) = cell.Row;
-        p.KillType(i) = cell.Type;
-    }
-};
-
-struct Polygons {
-    using Record = LWMRecord;
-    static void Set_count(Project& p, int count) { p.LWMCount = count; }
-    static int Count(const Project& p) { return p.LWMCount; }
-    static bool Equal(const Project& a, int i, const Project& b, int j) {
-        bool equal = a.LWMPointCount(i) == b.LWMPointCount(j) && a.LWMType(i) == b.LWMType(j) &&
-                     a.LWMHeight(i) == b.LWMHeight(j) && a.LWMCell(i, 0) == b.LWMCell(j, 0) &&
-                     a.LWMCell(i, 1) == b.LWMCell(j, 1);
-        for (int k = 1; equal && k <= a.LWMPointCount(i); ++k)
-            equal = a.LWMPoint(i, k, 0) == b.LWMPoint(j, k, 0) &&
-                    a.LWMPoint(i, k, 1) == b.LWMPoint(j, k, 1);
-        return equal;
-    }
-    static LWMRecord Get(const Project& p, int i) {
-        LWMRecord polygon{p.LWMType(i), p.LWMHeight(i), p.LWMCell(i, 0), p.LWMCell(i, 1), {}};
-        polygon.Points.reserve(2 * static_cast<std::size_t>(p.LWMPointCount(i)));
-        for (int k = 1; k <= p.LWMPointCount(i); ++k)
-            for (const int axis : {0, 1}) polygon.Points.push_back(p.LWMPoint(i, k, axis));
-        return polygon;
-    }
-    static void Set(Project& p, int i, const LWMRecord& polygon) {
-        p.LWMType(i) = polygon.Type;
-        p.LWMHeight(i) = polygon.Height;
-        p.LWMCell(i, 0) = polygon.Column;
-        p.LWMCell(i, 1) = polygon.Row;
-        p.LWMPointCount(i) = polygon.Points.size() / 2;
-        for (std::size_t k = 0; k < polygon.Points.size(); ++k)
-            p.LWMPoint(i, k / 2 + 1, k % 2) = polygon.Points[k];
-    }
-};
-
 template <class Entries>
 std::vector<typename Entries::Record> Records(const Project& project, int first, int last) {
     std::vector<typename Entries::Record> records;
@@ -214,9 +139,9 @@ std::size_t Bytes_of(const ValueChange::Value& value) {
 }  // namespace
 
 ProjectChange::ProjectChange(const Project& before, const Project& after)
-    : points_(Difference<Points>(before, after)),
-      cells_(Difference<ClearedCells>(before, after)),
-      polygons_(Difference<Polygons>(before, after)) {
+    : points_(Difference<PointTable>(before, after)),
+      cells_(Difference<ClearedCellTable>(before, after)),
+      polygons_(Difference<PolygonTable>(before, after)) {
     For_each_changed_value(
         before, after, [this](std::size_t place, const auto& old_value, const auto& new_value) {
             using Kind =
@@ -232,16 +157,16 @@ bool ProjectChange::Is_empty() const {
 
 void ProjectChange::Apply(Project& project) const {
     Set(project, values_, &ValueChange::After);
-    Replace<Points>(project, points_.At, points_.Before, points_.After);
-    Replace<ClearedCells>(project, cells_.At, cells_.Before, cells_.After);
-    Replace<Polygons>(project, polygons_.At, polygons_.Before, polygons_.After);
+    Replace<PointTable>(project, points_.At, points_.Before, points_.After);
+    Replace<ClearedCellTable>(project, cells_.At, cells_.Before, cells_.After);
+    Replace<PolygonTable>(project, polygons_.At, polygons_.Before, polygons_.After);
 }
 
 void ProjectChange::Revert(Project& project) const {
     Set(project, values_, &ValueChange::Before);
-    Replace<Points>(project, points_.At, points_.After, points_.Before);
-    Replace<ClearedCells>(project, cells_.At, cells_.After, cells_.Before);
-    Replace<Polygons>(project, polygons_.At, polygons_.After, polygons_.Before);
+    Replace<PointTable>(project, points_.At, points_.After, points_.Before);
+    Replace<ClearedCellTable>(project, cells_.At, cells_.After, cells_.Before);
+    Replace<PolygonTable>(project, polygons_.At, polygons_.After, polygons_.Before);
 }
 
 std::size_t ProjectChange::Bytes() const {
@@ -254,8 +179,8 @@ std::size_t ProjectChange::Bytes() const {
 
 bool operator==(const Project& a, const Project& b) {
     bool same = a.PointInCellX == b.PointInCellX && a.PointInCellY == b.PointInCellY &&
-                a.ProjectFile == b.ProjectFile && Same_entries<Points>(a, b) &&
-                Same_entries<ClearedCells>(a, b) && Same_entries<Polygons>(a, b);
+                a.ProjectFile == b.ProjectFile && Same_entries<PointTable>(a, b) &&
+                Same_entries<ClearedCellTable>(a, b) && Same_entries<PolygonTable>(a, b);
     if (same) For_each_changed_value(a, b, [&same](auto&&...) { same = false; });
     return same;
 }

@@ -7,29 +7,9 @@
 #include <vector>
 
 #include "model/project.h"
+#include "model/records.h"
 
 namespace tidemark {
-
-// A VTP point as the tables keep it.
-struct VTPRecord {
-    Int16 X, Y;
-    bool SegStart, SegEnd;
-    Int16 Mode, Width;
-    bool operator==(const VTPRecord&) const = default;
-};
-
-// A cleared cell.
-struct KillRecord {
-    Int16 Column, Row, Type;
-    bool operator==(const KillRecord&) const = default;
-};
-
-// An LWM polygon; Points holds X and Y of each of its points in turn.
-struct LWMRecord {
-    Int16 Type, Height, Column, Row;
-    std::vector<Int16> Points;
-    bool operator==(const LWMRecord&) const = default;
-};
 
 // From entry number At on (counted from 1), the entries Before were replaced by the entries After.
 template <class Record>

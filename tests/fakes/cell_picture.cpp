@@ -53,11 +53,4 @@ std::unique_ptr<Project> Cell_project(std::string_view lines) {
     return project;
 }
 
-Outline LWM_outline(const Project& project, int polygon) {
-    Outline outline;
-    for (int k = 1; k <= project.LWMPointCount(polygon); ++k)
-        outline.push_back({project.LWMPoint(polygon, k, 0), project.LWMPoint(polygon, k, 1)});
-    return outline;
-}
-
 }  // namespace tidemark

@@ -31,7 +31,4 @@ std::unique_ptr<Project> Cell_project(std::string_view lines);
 // The cursor in the cell at `click`, and water polygons to be built.
 Session Cell_session(CellPoint click = {128, 128});
 
-// The vertices of a polygon of the project.
-Outline LWM_outline(const Project& project, int polygon);
-
 }  // namespace tidemark

@@ -51,7 +51,7 @@ class GoldenGate : public testing::Test {
         session.CursorInCellX = click.X;
         session.CursorInCellY = click.Y;
         EXPECT_TRUE(Add_LWM_Poly(project, session, messages, HeightChoice::Conform, "").Added);
-        return LWM_outline(project, 1);
+        return Stored_outline(project, 1);
     }
 
     Project project;

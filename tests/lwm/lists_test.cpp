@@ -2,6 +2,7 @@
 #include "fakes/rules_test.h"
 #include "lwm/kill_list.h"
 #include "lwm/lwm_list.h"
+#include "lwm/polygon_builder.h"
 
 namespace tidemark {
 
@@ -9,7 +10,7 @@ namespace tidemark {
 static Texts Polygons(const Project& p) {
     Texts polygons = LWM_list_lines(p);
     for (int i = 1; i <= p.LWMCount; ++i)
-        polygons[static_cast<std::size_t>(i - 1)] += ": " + Points_text(LWM_outline(p, i));
+        polygons[static_cast<std::size_t>(i - 1)] += ": " + Points_text(Stored_outline(p, i));
     return polygons;
 }
 
@@ -40,7 +41,7 @@ TEST(LWMListTest, AClosingPointIsDroppedAtEveryRefresh) {
             p.LWMPoint(1, k, 1) = y;
         }
         Drop_closing_points(p);
-        return Points_text(LWM_outline(p, 1));
+        return Points_text(Stored_outline(p, 1));
     });
 }
 

@@ -17,7 +17,7 @@ static std::string Built(Project& project, CellPoint click = {128, 128}) {
     for (const Message& message : messages.Shown) add(message.Text);
     EXPECT_EQ(project.LWMCount, before.LWMCount + (result.Added ? 1 : 0));
     if (!result.Added) return built;
-    const Outline outline = LWM_outline(project, project.LWMCount);
+    const Outline outline = Stored_outline(project, project.LWMCount);
     --project.LWMCount;
     before.PointInCellX = project.PointInCellX;
     before.PointInCellY = project.PointInCellY;

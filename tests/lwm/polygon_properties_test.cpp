@@ -142,7 +142,7 @@ TEST_F(PolygonPropertiesTest, EveryRandomCell) {
         const LWMPolyResult result =
             Add_LWM_Poly(*project, session, messages, HeightChoice::Conform, "");
         ASSERT_TRUE(result.Added && result.StatusLine.empty());
-        EXPECT_EQ(Pieces_of({LWM_outline(*project, 1)}).begin()->first, nearest->first);
+        EXPECT_EQ(Pieces_of({Stored_outline(*project, 1)}).begin()->first, nearest->first);
         EXPECT_EQ(messages.Said(), "");
     }
     EXPECT_GT(picked, 500);
