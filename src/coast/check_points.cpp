@@ -1,0 +1,114 @@
+#include <algorithm>
+
+#include "coast/cell_path.h"
+#include "coast/check_parts.h"
+#include "model/drawing_modes.h"
+
+namespace tidemark {
+
+namespace {
+
+void Check_step(const Project& p, int point, Findings& findings) {
+    const Position from = VTP_position(p, point - 1), to = VTP_position(p, point);
+    for (const LOD13Cell& cell : Cells_between(from, to))
+        if (Is_in_LOD8_cell(cell))
+            findings.push_back({.Kind = FindingKind::SkippedCell,
+                                .Cell = cell,
+                                .Text = "the step from " + Point_text(point - 1) + " to " +
+                                        Point_text(point) + " skips cell " + Text_of(cell) +
+                                        ", which is built without it; insert a point there",
+                                .Point = point,
+                                .Mending = Remedy::CutStep});
+}
+
+// Whether the place is on the edge of its cell towards a neighbour.
+bool Is_towards(CellPoint place, LOD13Cell cell, LOD13Cell other) {
+    if (other == Beyond(cell, EdgeType::Left)) return place.X == 0;
+    if (other == Beyond(cell, EdgeType::Right)) return place.X == LastCellUnit;
+    if (other == Beyond(cell, EdgeType::Top)) return place.Y == 0;
+    return other == Beyond(cell, EdgeType::Bottom) && place.Y == LastCellUnit;
+}
+
+bool Is_corner(CellPoint place) {
+    return (place.X == 0 || place.X == LastCellUnit) && (place.Y == 0 || place.Y == LastCellUnit);
+}
+
+// A point on a cell's edge is for the builder the place where the coastline leaves or enters the
+// cell. That is right when it comes from inside and goes on straight across this edge, or the other
+// way round.
+bool Crosses_at(const Project& p, const Segment& coastline, int point) {
+    const CellPoint place = Place_in_cell(p, point);
+    const LOD13Cell cell = Cell_of_point(p, point);
+    const auto lies_inside = [&](int other, int end) {
+        return Cell_of_point(p, other) == cell &&
+               (other == end || !Is_on_boundary(Place_in_cell(p, other)));
+    };
+    const auto lies_across = [&](int other) {
+        return Is_towards(place, cell, Cell_of_point(p, other));
+    };
+    if (Is_corner(place)) return false;
+    return (lies_inside(point - 1, coastline.First) && lies_across(point + 1)) ||
+           (lies_across(point - 1) && lies_inside(point + 1, coastline.Last));
+}
+
+void Check_edge_point(const Project& p, const Segment& coastline, int point, Findings& findings) {
+    const LOD13Cell cell = Cell_of_point(p, point);
+    if (!Is_in_LOD8_cell(cell) || !Is_on_boundary(Place_in_cell(p, point)) ||
+        Crosses_at(p, coastline, point))
+        return;
+    findings.push_back({.Kind = FindingKind::Neighbours,
+                        .Cell = cell,
+                        .Text = Point_text(point) + " is on the edge of its cell, where the " +
+                                "coastline does not cross it; move the point into the cell",
+                        .Point = point,
+                        .Mending = Remedy::MoveInside});
+}
+
+void Check_segment(const Project& p, const Segment& segment, Findings& findings) {
+    const LOD13Cell cell = Cell_of_point(p, segment.First);
+    if (segment.First == segment.Last)
+        findings.push_back({.Kind = FindingKind::Segment,
+                            .Cell = cell,
+                            .Text = "the segment at " + Point_text(segment.First) +
+                                    " has no other point, and the VTP file is refused; delete it "
+                                    "or add a point to it",
+                            .Point = segment.First});
+    if (!Find_mode(segment.Mode, Adds::Point))
+        findings.push_back({.Kind = FindingKind::Segment,
+                            .Cell = cell,
+                            .Text = "the segment at " + Point_text(segment.First) +
+                                    " has the unknown drawing mode " +
+                                    std::to_string(segment.Mode) +
+                                    ", and the VTP file is refused; delete it and draw it again",
+                            .Point = segment.First});
+}
+
+void Check_repeated_point(const Project& p, const Segment& segment, int point, Findings& findings) {
+    if (VTP_position(p, point - 1) != VTP_position(p, point)) return;
+    const bool is_whole_segment = segment.Last - segment.First == 1;
+    findings.push_back({.Kind = FindingKind::Segment,
+                        .IsError = Is_coastline(segment.Mode),
+                        .Cell = Cell_of_point(p, point),
+                        .Text = Point_text(point - 1) + " and " + Point_text(point) +
+                                " share a place; " +
+                                (is_whole_segment ? "move one of them" : "delete one of them"),
+                        .Point = point,
+                        .Mending = is_whole_segment ? Remedy::None : Remedy::DropPoint});
+}
+
+}  // namespace
+
+void Check_points(const Project& p, const CoastSurvey& survey, Findings& findings) {
+    for (const Segment& segment : Segments(p)) {
+        Check_segment(p, segment, findings);
+        for (int i = segment.First + 1; i <= segment.Last; ++i)
+            Check_repeated_point(p, segment, i, findings);
+    }
+    for (const Segment& coastline : survey.Coastlines()) {
+        for (int i = coastline.First + 1; i <= coastline.Last; ++i) Check_step(p, i, findings);
+        for (int i = coastline.First + 1; i < coastline.Last; ++i)
+            Check_edge_point(p, coastline, i, findings);
+    }
+}
+
+}  // namespace tidemark

@@ -1,0 +1,186 @@
+#include "coast/mend.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+#include <set>
+
+#include "coast/cell_path.h"
+#include "coast/check.h"
+#include "coast/check_parts.h"
+#include "coast/rebuild.h"
+#include "lwm/polygon_builder.h"
+#include "model/records.h"
+
+namespace tidemark {
+
+namespace {
+
+// Mending can bring to light what was hidden behind a finding; more often than this it does not.
+constexpr int MaxRounds = 8;
+
+// What the findings ask for, by point or polygon.
+struct Work {
+    std::map<int, int> CutBefore;  // and by how much the crossings go aside
+    std::set<int> MoveInside, MoveToEdge, Drop, Rebuild;
+
+    explicit Work(std::span<const Finding> findings) {
+        for (const Finding& finding : findings) Add(finding);
+    }
+
+  private:
+    void Add(const Finding& finding) {
+        const int point = finding.Point;
+        switch (finding.Mending) {
+            case Remedy::None:
+                break;
+            case Remedy::CutStep:
+                CutBefore.emplace(point, 0);
+                break;
+            case Remedy::Widen:
+                CutBefore[point] = -1;
+                CutBefore[finding.Other] = 1;
+                break;
+            case Remedy::MoveInside:
+                MoveInside.insert(point);
+                CutBefore.insert({{point, 0}, {point + 1, 0}});
+                break;
+            case Remedy::MoveToEdge:
+                MoveToEdge.insert(point);
+                break;
+            case Remedy::DropPoint:
+                Drop.insert(point);
+                break;
+            case Remedy::Rebuild:
+                Rebuild.insert(finding.Polygon);
+        }
+    }
+};
+
+Position Place_of(const VTPRecord& point) {
+    return {point.X, point.Y};
+}
+
+VTPRecord At_place(VTPRecord point, Position place) {
+    point.X = place[0];
+    point.Y = place[1];
+    return point;
+}
+
+// The points of the project as the work leaves them.
+std::vector<VTPRecord> Mended_points(const Project& p, const Work& work) {
+    std::vector<VTPRecord> points;
+    for (int i = 1; i <= p.VTPCount; ++i) {
+        VTPRecord point = PointTable::Get(p, i);
+        if (work.Drop.contains(i)) continue;
+        if (work.MoveInside.contains(i)) point = At_place(point, Off_cell_edges(Place_of(point)));
+        if (work.MoveToEdge.contains(i))
+            point = At_place(point, Place_on_edge(p, i).value_or(Place_of(point)));
+        const auto cut = work.CutBefore.find(i);
+        if (cut != work.CutBefore.end() && !point.SegStart && !points.empty()) {
+            VTPRecord between = points.back();
+            between.SegStart = false;
+            const Position from = Place_of(points.back());
+            for (const Position& place : Cut_of_step(from, Place_of(point), cut->second))
+                points.push_back(At_place(between, place));
+        }
+        points.push_back(point);
+    }
+    return points;
+}
+
+void Store_points(Project& p, const std::vector<VTPRecord>& points) {
+    PointTable::Set_count(p, static_cast<int>(points.size()));
+    int i = 0;
+    for (const VTPRecord& point : points) PointTable::Set(p, ++i, point);
+    Repair_segments(p);
+}
+
+void Rebuild_polygons(Project& p, const std::set<int>& polygons) {
+    if (polygons.empty()) return;
+    const CoastSurvey survey(p);
+    for (const int polygon : polygons) {
+        const LOD13Cell cell{p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)};
+        const auto piece = Rebuilt(Stored_outline(p, polygon), survey.Candidates(cell));
+        if (!piece) continue;
+        Store_polygon(p, polygon, cell.Column, cell.Row, {p.LWMType(polygon), p.LWMHeight(polygon)},
+                      *piece);
+    }
+}
+
+// Why there is no room for so many points; empty: there is.
+std::string No_room_for(std::size_t points, const Project& p) {
+    if (points <= MaxVTPCount) return "";
+    return "Nothing was mended: " +
+           std::to_string(points - static_cast<std::size_t>(int{p.VTPCount})) +
+           " more points are needed, and " + std::to_string(MaxVTPCount - p.VTPCount) +
+           " are free.";
+}
+
+// An end of a coastline on the other side of the edge that this one is to meet: at most
+// MaxEndFromEdge along the edge from it.
+std::optional<int> Meeting_place(const Project& p, Position place, std::size_t axis, int far_unit) {
+    for (int i = 1; i <= p.VTPCount; ++i) {
+        if (!p.VTPSegStart(i) && !p.VTPSegEnd(i)) continue;
+        const Position other = VTP_position(p, i);
+        const int apart = std::abs(other[1 - axis] - place[1 - axis]);
+        if (other[axis] == far_unit && apart <= MaxEndFromEdge) return other[1 - axis];
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Position> Place_on_edge(const Project& p, int end) {
+    const Position place = VTP_position(p, end);
+    std::optional<Position> nearest;
+    int least = MaxEndFromEdge + 1;
+    for (const std::size_t axis : {0U, 1U})
+        for (const bool ahead : {false, true}) {
+            const int first = First_unit(Cell_index(place[axis]));
+            const int near_unit = ahead ? first + LastCellUnit : first;
+            const int far_unit = ahead ? near_unit + 1 : near_unit - 1;
+            const int distance = std::abs(near_unit - place[axis]);
+            if (distance == 0 || distance >= least) continue;
+            least = distance;
+            nearest = place;
+            // Where the coastline leaves the cell right here, its end goes over the edge with it.
+            const int next = p.VTPSegStart(end) ? end + 1 : end - 1;
+            const bool leaves =
+                next >= 1 && next <= p.VTPCount &&
+                Cell_index(p.VTPPoint(next, static_cast<int>(axis))) == Cell_index(far_unit);
+            (*nearest)[axis] = leaves ? far_unit : near_unit;
+            if (leaves) continue;
+            if (const auto along = Meeting_place(p, place, axis, far_unit))
+                (*nearest)[1 - axis] = *along;
+        }
+    return nearest;
+}
+
+MendResult Mend(Project& project, std::span<const Finding> findings) {
+    const Work work(findings);
+    const std::vector<VTPRecord> points = Mended_points(project, work);
+    if (std::string refusal = No_room_for(points.size(), project); !refusal.empty())
+        return {0, std::move(refusal)};
+    Store_points(project, points);
+    Rebuild_polygons(project, work.Rebuild);
+    const auto has_remedy = [](const Finding& f) { return f.Mending != Remedy::None; };
+    return {static_cast<int>(std::count_if(findings.begin(), findings.end(), has_remedy)), ""};
+}
+
+MendResult Mend_all(Project& project) {
+    MendResult all;
+    Findings findings = Check_coast(project);
+    for (int round = 0; round < MaxRounds && Has_remedy(findings); ++round) {
+        const MendResult result = Mend(project, findings);
+        if (!result.Refusal.empty()) {
+            if (all.Mended == 0) all.Refusal = result.Refusal;
+            break;
+        }
+        all.Mended += result.Mended;
+        findings = Check_coast(project);
+    }
+    return all;
+}
+
+}  // namespace tidemark

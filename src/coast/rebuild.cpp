@@ -1,0 +1,58 @@
+#include "coast/rebuild.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "coast/cell_mask.h"
+#include "coast/coast_survey.h"
+
+namespace tidemark {
+
+namespace {
+
+// In square units, and whichever way round the outline runs.
+int Twice_area(const Outline& outline) {
+    int sum = 0;
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        const CellPoint a = outline[i], b = outline[i + 1 == outline.size() ? 0 : i + 1];
+        sum += int{a.X} * int{b.Y} - int{b.X} * int{a.Y};
+    }
+    return std::abs(sum);
+}
+
+// Half of the one or half of the other.
+bool Has_much_in_common(const Outline& a, const Outline& b) {
+    constexpr int twice_cell = 2 * MaskSize * MaskSize;
+    const int area_a = Twice_area(a), area_b = Twice_area(b), least = std::min(area_a, area_b);
+    const bool must_overlap = 2 * (area_a + area_b - twice_cell) >= least;
+    return must_overlap || 4 * CellMask(a).Common_area(CellMask(b)) >= least;
+}
+
+}  // namespace
+
+bool Is_built_as(const Outline& polygon, const Outline& piece) {
+    if (Same_outline(polygon, piece)) return true;
+    if (piece.size() != polygon.size() + 1) return false;
+    for (std::size_t i = 0; i < piece.size(); ++i) {  // the vertex that may be the closing one
+        const std::size_t next = i + 1 == piece.size() ? 0 : i + 1;
+        if (piece[i] != piece[next]) continue;
+        Outline closed = piece;
+        closed.erase(closed.begin() + static_cast<std::ptrdiff_t>(i));
+        if (Same_outline(polygon, closed)) return true;
+    }
+    return false;
+}
+
+std::optional<Outline> Rebuilt(const Outline& polygon, const std::vector<Outline>& candidates) {
+    const std::vector<Outline> pieces = Distinct_pieces(candidates);
+    if (pieces.size() == 1) return pieces.front();
+    std::optional<Outline> found;
+    for (const Outline& piece : pieces) {
+        if (!Has_much_in_common(polygon, piece)) continue;
+        if (found) return std::nullopt;
+        found = piece;
+    }
+    return found;
+}
+
+}  // namespace tidemark
