@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "coast/cell_path.h"
+#include "coast/clear_along.h"
 #include "golden_gate.h"
 #include "lwm/polygon_builder.h"
 #include "model/cell_frame.h"
@@ -82,13 +83,6 @@ void Add_coast(Project& project, const GeoLine& line) {
     }
     segment.insert(segment.end(), at(next), path.Points.end());
     Add_segment(project, segment, mode, CoastWidth);
-}
-
-// What is drawn anew in a cell replaces what the simulator has there.
-int Clear_code(int mode) {
-    if (Is_coastline(mode)) return ClearCoastlines;
-    if (mode == Stream) return ClearRivers;
-    return mode == DirtRoad ? ClearMinorRoads : ClearMajorRoads;
 }
 
 void Add_cleared_cells(Project& project) {

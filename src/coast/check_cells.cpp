@@ -17,6 +17,7 @@ void Check_ends(const Project& p, const SurveyedCell& cell, Findings& findings) 
     const Finding loose_end{.Kind = FindingKind::LooseEnd, .Cell = cell.Cell};
     const std::vector<int>& ends = cell.Ends;
     if (ends.size() == 2 && cell.Inner.empty()) {
+        if (VTP_position(p, ends[0]) == VTP_position(p, ends[1])) return;  // a closed line
         Finding linked = loose_end;
         linked.IsError = false;
         linked.Point = ends[0];

@@ -64,6 +64,70 @@ void Check_edge_point(const Project& p, const Segment& coastline, int point, Fin
                         .Mending = Remedy::MoveInside});
 }
 
+// Whether a coastline ends at the place, coming from inside the cell.
+bool Ends_from_inside(const Project& p, const CoastSurvey& survey, Position place) {
+    return std::any_of(
+        survey.Coastlines().begin(), survey.Coastlines().end(), [&](const Segment& coastline) {
+            return VTP_position(p, coastline.Last) == place &&
+                   Cell_of(VTP_position(p, std::max(coastline.Last - 1, 1))) == Cell_of(place);
+        });
+}
+
+// Where a coastline begins on a cell's edge and the builder would have it cross the edge more than
+// once there, or without the neighbour.
+std::vector<Position> Bad_starts(const Project& p, const CoastSurvey& survey) {
+    std::vector<Position> places;
+    for (const Segment& coastline : survey.Coastlines()) {
+        const int first = coastline.First;
+        const CellPoint place = Place_in_cell(p, first);
+        if (!Is_on_boundary(place) || first == coastline.Last) continue;
+        if (Is_corner(place) ||
+            Is_towards(place, Cell_of_point(p, first), Cell_of_point(p, first + 1)) ||
+            Ends_from_inside(p, survey, VTP_position(p, first)))
+            places.push_back(VTP_position(p, first));
+    }
+    return places;
+}
+
+// A coastline that comes into its last cell over one edge and ends on another leaves no trace there
+// unless it has one more point.
+void Check_last_step(const Project& p, const Segment& coastline, Findings& findings) {
+    const int last = coastline.Last;
+    const LOD13Cell cell = Cell_of_point(p, last);
+    const CellPoint place = Place_in_cell(p, last);
+    if (coastline.First == last || !Is_in_LOD8_cell(cell) || !Is_on_boundary(place)) return;
+    const LOD13Cell before = Cell_of_point(p, last - 1);
+    if (before == cell || Is_towards(place, cell, before)) return;
+    findings.push_back({.Kind = FindingKind::SkippedCell,
+                        .Cell = cell,
+                        .Text = "the coastline that ends on the edge of this cell at " +
+                                Point_text(last) +
+                                " has no point inside, and the cell is built without it; insert "
+                                "a point there",
+                        .Point = last,
+                        .Mending = Remedy::CutStep});
+}
+
+// Ends that share a place belong together, and move together.
+void Check_ends_on_edges(const Project& p, const CoastSurvey& survey, Findings& findings) {
+    const std::vector<Position> bad_starts = Bad_starts(p, survey);
+    for (const Segment& coastline : survey.Coastlines())
+        for (const int end : {coastline.First, coastline.Last}) {
+            const LOD13Cell cell = Cell_of_point(p, end);
+            const auto found =
+                std::find(bad_starts.begin(), bad_starts.end(), VTP_position(p, end));
+            const bool is_bad = found != bad_starts.end() || Is_corner(Place_in_cell(p, end));
+            if (!is_bad || !Is_in_LOD8_cell(cell)) continue;
+            findings.push_back({.Kind = FindingKind::Neighbours,
+                                .Cell = cell,
+                                .Text = Point_text(end) +
+                                        " is on the edge of its cell, where no coastline may "
+                                        "begin or end like this; move the point into the cell",
+                                .Point = end,
+                                .Mending = Remedy::MoveInside});
+        }
+}
+
 void Check_segment(const Project& p, const Segment& segment, Findings& findings) {
     const LOD13Cell cell = Cell_of_point(p, segment.First);
     if (segment.First == segment.Last)
@@ -108,7 +172,9 @@ void Check_points(const Project& p, const CoastSurvey& survey, Findings& finding
         for (int i = coastline.First + 1; i <= coastline.Last; ++i) Check_step(p, i, findings);
         for (int i = coastline.First + 1; i < coastline.Last; ++i)
             Check_edge_point(p, coastline, i, findings);
+        Check_last_step(p, coastline, findings);
     }
+    Check_ends_on_edges(p, survey, findings);
 }
 
 }  // namespace tidemark

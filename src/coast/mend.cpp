@@ -67,13 +67,19 @@ VTPRecord At_place(VTPRecord point, Position place) {
     return point;
 }
 
+// Off the edges of its cell; what lies on the map's own edge stays there if it can.
+Position Moved_inside(Position place) {
+    const Position placed = Placed(std::vector{place}).front();
+    return placed != place ? placed : Off_cell_edges(place);
+}
+
 // The points of the project as the work leaves them.
 std::vector<VTPRecord> Mended_points(const Project& p, const Work& work) {
     std::vector<VTPRecord> points;
     for (int i = 1; i <= p.VTPCount; ++i) {
         VTPRecord point = PointTable::Get(p, i);
         if (work.Drop.contains(i)) continue;
-        if (work.MoveInside.contains(i)) point = At_place(point, Off_cell_edges(Place_of(point)));
+        if (work.MoveInside.contains(i)) point = At_place(point, Moved_inside(Place_of(point)));
         if (work.MoveToEdge.contains(i))
             point = At_place(point, Place_on_edge(p, i).value_or(Place_of(point)));
         const auto cut = work.CutBefore.find(i);
