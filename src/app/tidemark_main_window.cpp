@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include "app/fill_commands.h"
 #include "app/project_commands.h"
 #include "canvas/background.h"
 #include "model/path_text.h"
@@ -143,6 +144,9 @@ void TidemarkMain::Wire_tool_bar() {
     tool_bar_->Zoom(*map_);
     connect(&tool_bar_->GoTo(), &QAction::triggered, this, &TidemarkMain::Go_to);
     connect(&tool_bar_->ShowChosen(), &QAction::triggered, this, &TidemarkMain::Show_chosen);
+    connect(&tool_bar_->FillCoast(), &QAction::triggered, this, &TidemarkMain::Fill_coast);
+    connect(&tool_bar_->ClearCoast(), &QAction::triggered, this,
+            [this] { Say(Clear_along_coast(document_, session_)); });
     connect(tool_bar_, &ToolBar::Marks_changed, this, &TidemarkMain::Show_marks);
 }
 

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QMainWindow>
 
+#include "app/fill_coast_window.h"
 #include "app/map_commands.h"
 #include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
@@ -97,6 +98,7 @@ class TidemarkMain : public QMainWindow {
     void Select_point();
     void Go_to();
     void Show_chosen();
+    void Fill_coast();
     void Show_place(VTPPlace place);
     void Show_marks();
     void EditButton_Click();
@@ -142,6 +144,7 @@ class TidemarkMain : public QMainWindow {
     BGproperties* background_properties_ = nullptr;
     CellCalculator* calculator_ = nullptr;
     GoTo* go_to_ = nullptr;
+    FillCoast* fill_coast_ = nullptr;
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

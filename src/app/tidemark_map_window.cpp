@@ -3,6 +3,7 @@
 #include <QStatusBar>
 
 #include "app/chosen_place.h"
+#include "app/fill_commands.h"
 #include "app/project_commands.h"
 #include "app/tidemark_main_window.h"
 #include "canvas/click.h"
@@ -185,6 +186,16 @@ void TidemarkMain::Go_to() {
 
 void TidemarkMain::Show_chosen() {
     if (const auto place = Chosen_place(document_.Now(), session_)) Show_place(*place);
+}
+
+void TidemarkMain::Fill_coast() {
+    if (!fill_coast_) fill_coast_ = new FillCoast(this);
+    const auto [from, to] = map_->Canvas_in_view();
+    const auto plan = fill_coast_->Ask(document_.Now(), session_.Panel.SelectedPolygon + 1,
+                                       Cells_in_view(document_.Now(), from, to));
+    if (!plan) return;
+    Fill_along_coast(document_, session_, *plan);
+    Say(std::to_string(plan->Polygons.size()) + " polygons added along the coast.");
 }
 
 void TidemarkMain::Show_place(VTPPlace place) {

@@ -58,6 +58,11 @@ ToolBar::ToolBar(QWidget* parent)
     GoTo_ = Add_command(*this, "GoTo", "Go to", Drawn_icon(GoToIcon()), {Qt::CTRL | Qt::Key_G});
     ShowChosen_ = Add_command(*this, "ShowChosen", "Show chosen", Drawn_icon(ShowChosenIcon()),
                               {Qt::CTRL | Qt::Key_J});
+    addSeparator()->setObjectName("sep8");
+    FillCoast_ = Add_command(*this, "FillCoast", "Fill along the coast",
+                             Drawn_icon(FillCoastIcon()), {Qt::CTRL | Qt::Key_F});
+    ClearCoast_ = Add_command(*this, "ClearCoast", "Clear along the coast",
+                              Drawn_icon(ClearCoastIcon()), {Qt::CTRL | Qt::Key_K});
     for (QAction* const action : {Marks_, GoTo_, ShowChosen_}) action->setEnabled(false);
     // What stands to the right of the level keeps its place.
     QWidget& level = *widgetForAction(ZoomReset_);

@@ -85,6 +85,31 @@ IconShapes GoToIcon() {
     return shapes;
 }
 
+// A coast with what lies below it filled.
+IconShapes FillCoastIcon() {
+    IconShapes shapes;
+    shapes.Strokes.addRect(3.5, 3.5, 17, 17);
+    shapes.Fills.moveTo(3.5, 15);
+    shapes.Fills.cubicTo(9, 6, 14, 18, 20.5, 9);
+    shapes.Fills.lineTo(20.5, 20.5);
+    shapes.Fills.lineTo(3.5, 20.5);
+    shapes.Fills.closeSubpath();
+    return shapes;
+}
+
+// A coast that is struck out.
+IconShapes ClearCoastIcon() {
+    IconShapes shapes;
+    shapes.Strokes.addRect(3.5, 3.5, 17, 17);
+    shapes.Strokes.moveTo(3.5, 15);
+    shapes.Strokes.cubicTo(9, 6, 14, 18, 20.5, 9);
+    shapes.Strokes.moveTo(8, 7);
+    shapes.Strokes.lineTo(16, 17);
+    shapes.Strokes.moveTo(16, 7);
+    shapes.Strokes.lineTo(8, 17);
+    return shapes;
+}
+
 // A place in the middle of a frame.
 IconShapes ShowChosenIcon() {
     IconShapes shapes;

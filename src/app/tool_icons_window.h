@@ -13,5 +13,7 @@ IconShapes ZoomWholeIcon();
 IconShapes MarksIcon();
 IconShapes GoToIcon();
 IconShapes ShowChosenIcon();
+IconShapes FillCoastIcon();
+IconShapes ClearCoastIcon();
 
 }  // namespace tidemark

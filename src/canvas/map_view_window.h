@@ -42,6 +42,8 @@ class MapView : public QWidget {
     void Zoom_out();
     void Zoom_reset();
     void Zoom_whole();
+    // The corners of what is in view: the north-west and the south-east one.
+    std::pair<CanvasPoint, CanvasPoint> Canvas_in_view() const;
     // Scrolls so that a canvas pixel lies in the middle, as far as the map goes.
     void Center_on(CanvasPoint pixel);
 

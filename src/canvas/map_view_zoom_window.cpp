@@ -44,6 +44,11 @@ void MapView::Zoom_to(double zoom, ScreenPoint fixed) {
     Q_EMIT Zoom_changed();
 }
 
+std::pair<CanvasPoint, CanvasPoint> MapView::Canvas_in_view() const {
+    const auto [width, height] = Viewport_size();
+    return {scale_.To_canvas({0, 0}), scale_.To_canvas({double(width), double(height)})};
+}
+
 void MapView::Center_on(CanvasPoint pixel) {
     MapScale scale = scale_;
     scale.Put(pixel, Middle());

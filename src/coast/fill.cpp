@@ -277,6 +277,34 @@ std::string Fill_count_text(const FillPlan& plan) {
            " free";
 }
 
+std::string Fill_advice(const Project& project, int polygon, const FillOptions& options,
+                        const std::optional<CellRange>& view) {
+    struct Choice {
+        const char* Name;
+        FillOptions Options;
+    };
+    std::vector<Choice> choices;
+    FillOptions narrower = options;
+    narrower.Inside = false;
+    if (options.Inside) choices.push_back({"without the cells inside", narrower});
+    if (options.Water && options.Land) {
+        choices.push_back({"water only", {true, false, false, options.Within}});
+        choices.push_back({"land only", {false, true, false, options.Within}});
+    }
+    if (view && !options.Within) {
+        narrower.Within = view;
+        choices.push_back({"the cells in view", narrower});
+    }
+    std::string advice;
+    for (const auto& [name, chosen] : choices) {
+        const FillPlan plan = Plan_fill(project, polygon, chosen);
+        if (!plan.Refusal.empty() || plan.Polygons.empty() || !plan.Fits()) continue;
+        advice += advice.empty() ? "These would fit: " : ", ";
+        advice += std::string(name) + " (" + std::to_string(plan.Polygons.size()) + ")";
+    }
+    return advice;
+}
+
 void Fill(Project& project, const FillPlan& plan) {
     for (const auto& [cell, kind, outline] : plan.Polygons)
         Store_polygon(project, project.LWMCount + 1, cell.Column, cell.Row, kind, outline);

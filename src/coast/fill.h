@@ -60,6 +60,12 @@ FillPlan Plan_fill(const Project& project, int polygon, const FillOptions& optio
 // "148 cells; 148 polygons needed, 177 free".
 std::string Fill_count_text(const FillPlan& plan);
 
+// What would fit when the plan with these options does not: "These would fit: water only (95
+// polygons), the cells in view (30)". Narrower choices than the options, with the cells in view
+// where they are known; empty when none fits.
+std::string Fill_advice(const Project& project, int polygon, const FillOptions& options,
+                        const std::optional<CellRange>& view);
+
 // Appends the planned polygons; the plan has to fit.
 void Fill(Project& project, const FillPlan& plan);
 

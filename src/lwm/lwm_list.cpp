@@ -36,15 +36,17 @@ void Drop_closing_points(Project& project) {
     }
 }
 
+std::string LWM_list_line(const Project& project, int polygon) {
+    const int type = project.LWMType(polygon) == WaterPolygon ? WaterPolygon : LandPolygon;
+    return Cell_text(project.LWMCell(polygon, 0), project.LWMCell(polygon, 1)) +
+           std::string(Find_mode(type, Adds::Polygon)->ShortName) +
+           Height_text(project.LWMHeight(polygon));
+}
+
 std::vector<std::string> LWM_list_lines(const Project& project) {
     std::vector<std::string> lines;
     lines.reserve(static_cast<std::size_t>(project.LWMCount));
-    for (int i = 1; i <= project.LWMCount; ++i) {
-        const int type = project.LWMType(i) == WaterPolygon ? WaterPolygon : LandPolygon;
-        lines.push_back(Cell_text(project.LWMCell(i, 0), project.LWMCell(i, 1)) +
-                        std::string(Find_mode(type, Adds::Polygon)->ShortName) +
-                        Height_text(project.LWMHeight(i)));
-    }
+    for (int i = 1; i <= project.LWMCount; ++i) lines.push_back(LWM_list_line(project, i));
     return lines;
 }
 

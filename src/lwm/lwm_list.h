@@ -13,7 +13,10 @@ namespace tidemark {
 // does. A polygon without points stays so.
 void Drop_closing_points(Project& project);
 
-// One line to a polygon, in order: "[ 12, 7 ] Water, conforms" or "[ 3, 30 ] Land @ 150m".
+// "[ 12, 7 ] Water, conforms" or "[ 3, 30 ] Land @ 150m".
+std::string LWM_list_line(const Project& project, int polygon);
+
+// One line to a polygon, in order.
 std::vector<std::string> LWM_list_lines(const Project& project);
 
 // The polygons after it move down by one. Does not set DataChanged.

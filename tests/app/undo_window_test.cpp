@@ -156,6 +156,22 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgainAndTheNextClickGoesWhereItWo
              });
              Press(canvas_, Qt::Key_E);
          }},
+        {"fill along the coast",
+         [this] {
+             Choose_mode("Water polygon");
+             Click_at(canvas_, {40, 300});
+             Select("LWMlistBox", 2);
+             plan_.Then([](QWidget& dialog) {
+                 Click(Control<QCheckBox>(dialog, "FillInside"));
+                 Press(dialog, Qt::Key_Return);
+             });
+             Action("FillCoast").trigger();
+         }},
+        {"clear along the coast",
+         [this] {
+             Select("VTPlistbox", 1);
+             Action("ClearCoast").trigger();
+         }},
         {"change background properties",
          [this] {
              Plan_properties("6");
