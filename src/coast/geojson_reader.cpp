@@ -19,8 +19,6 @@ struct TooLong {};
 // The parser's memory, which grows with the longest text of the file and with its nesting.
 class BoundedMemory {
   public:
-    static constexpr bool kNeedFree = true;
-
     void* Malloc(std::size_t size) { return Realloc(nullptr, 0, size); }
     void* Realloc(void* memory, std::size_t, std::size_t size) {
         if (size > LongestText) throw TooLong();
