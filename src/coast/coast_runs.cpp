@@ -111,9 +111,11 @@ CoastRuns::CoastRuns(std::span<const GeoBox> wanted)
 }
 
 bool CoastRuns::May_touch(const GeoBox& bounds) const {
-    for (int turns = -FarthestTurn; turns <= FarthestTurn; ++turns)
+    for (int turns = -FarthestTurn; turns <= FarthestTurn; ++turns) {
+        if (!Touch(Moved_east(around_wanted_, turns), bounds)) continue;
         for (const GeoBox& box : wanted_)
             if (Touch(Moved_east(box, turns), bounds)) return true;
+    }
     return false;
 }
 

@@ -61,13 +61,6 @@ bool GeojsonHandler::Null() {
     return may_be || Take_other("null");
 }
 
-bool GeojsonHandler::Take_number(double value) {
-    if (levels_ == 0) return Take_other("a number");
-    if (numbers_ < MostNumbers) position_[numbers_] = value;
-    ++numbers_;
-    return true;
-}
-
 // A value that is no list and no object, where GeoJSON may have none.
 bool GeojsonHandler::Take_other(const char* what) {
     if (levels_ > 0) Refuse(std::string(what) + " stands among the coordinates");
@@ -167,13 +160,10 @@ bool GeojsonHandler::EndObject(unsigned) {
     return true;
 }
 
-bool GeojsonHandler::StartArray() {
+// Every list but those within coordinates that may be there.
+bool GeojsonHandler::Start_list() {
     Enter();
-    if (levels_ > 0) {
-        if (numbers_ > 0) Refuse("a list stands among the numbers of a position");
-        ++levels_;
-        return true;
-    }
+    if (levels_ > 0) Refuse("a list stands among the numbers of a position");
     if (passed_over_ > 0) {
         ++passed_over_;
         return true;

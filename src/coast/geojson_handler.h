@@ -32,7 +32,12 @@ class GeojsonHandler {
     bool StartObject();
     bool Key(const char* text, unsigned length, bool);
     bool EndObject(unsigned);
-    bool StartArray();
+    bool StartArray() {
+        if (levels_ == 0 || numbers_ > 0 || depth_ == DeepestNesting) return Start_list();
+        ++depth_;
+        ++levels_;
+        return true;
+    }
     bool EndArray(unsigned);
 
     // "line 12, feature 3" at the stream's place.
@@ -66,8 +71,14 @@ class GeojsonHandler {
 
     CoastPlace Here() const;
     void Enter();
-    bool Take_number(double value);
+    bool Take_number(double value) {
+        if (levels_ == 0) return Take_other("a number");
+        if (numbers_ < MostNumbers) position_[numbers_] = value;
+        ++numbers_;
+        return true;
+    }
     bool Take_other(const char* what);
+    bool Start_list();
     void Begin_object(Role role);
     void Begin_coordinates(Object& object);
     void End_position();

@@ -44,6 +44,8 @@ void Read_geojson(CoastInput& input, CoastRuns& runs) {
     try {
         // It calls itself for what is nested, which the handler ends before that is deep.
         const auto result = reader.Parse(stream, handler);
+        if (result.IsError() && stream.Is_at_end())
+            handler.Refuse("it is no JSON, or it was cut off: it ends within a value");
         if (result.IsError())
             handler.Refuse(std::string("it is no JSON: ") +
                            rapidjson::GetParseError_En(result.Code()));

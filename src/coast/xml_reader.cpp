@@ -9,7 +9,7 @@ namespace tidemark {
 namespace {
 
 constexpr int DeepestNesting = 64;
-constexpr XML_Index LongestTag = XML_Index{1} << 20;  // bytes that the parser keeps until it ends
+constexpr std::size_t LongestTag = std::size_t{1} << 20;  // the parser keeps it until it ends
 
 struct FreeParser {
     void operator()(XML_Parser parser) const { XML_ParserFree(parser); }
@@ -30,6 +30,7 @@ struct XmlReader::Callbacks {
     static void Guarded(void* data, const Act& act) {
         XmlReader& reader = *static_cast<XmlReader*>(data);
         if (reader.failure_) return;
+        reader.since_event_ = 0;
         try {
             act(reader);
         } catch (...) {
@@ -86,9 +87,8 @@ void XmlReader::Feed(const char* bytes, std::size_t count, bool is_last) {
     if (failure_) std::rethrow_exception(failure_);
     if (status != XML_STATUS_OK)
         Refuse(std::string("it is no XML: ") + XML_ErrorString(XML_GetErrorCode(parser_)));
-    int offset = 0, size = 0;
-    if (!is_last && XML_GetInputContext(parser_, &offset, &size) && size - offset > LongestTag)
-        Refuse("a tag in it is longer than 1 MiB");
+    since_event_ += count;
+    if (since_event_ > LongestTag) Refuse("a tag in it is longer than 1 MiB");
 }
 
 void XmlReader::Check_start(std::string_view name) {

@@ -47,6 +47,7 @@ class XmlReader {
     XML_ParserStruct* parser_ = nullptr;
     const char** attributes_ = nullptr;
     int depth_ = 0;
+    std::size_t since_event_ = 0;  // bytes that were fed after the last call of the parser
     std::exception_ptr failure_;
 };
 
