@@ -10,7 +10,7 @@ namespace tidemark {
 // One cell of the simulator's grid that the continent's coast runs through.
 inline constexpr GeoBox BigCoastCell{-120, 37.6171875, -119.53125, 37.96875};
 
-// 80 MB of GeoJSON: a Feature with a Polygon on each line. One continent has a million positions,
+// 76 MB of GeoJSON: a Feature with a Polygon on each line. One continent has a million positions,
 // each of 2000 islands a thousand.
 void Write_big_geojson(const std::string& path);
 

@@ -89,7 +89,7 @@ void Clip_with_ogr2ogr(benchmark::State& state, const std::string& extension) {
 }
 
 const bool registered = [] {
-    const std::string json = "one cell of 80 MB of GeoJSON [300 ms]|";
+    const std::string json = "one cell of 76 MB of GeoJSON [300 ms]|";
     const std::string shapes = "one cell of a 48 MB shapefile [70 ms]|";
     const auto add = [](const std::string& name, auto measured) {
         benchmark::RegisterBenchmark(name.c_str(), measured)->UseRealTime();

@@ -24,7 +24,7 @@ int Print_rows(const std::string& program) {
     const std::string json = folder / "big.geojson", shapes = folder / "big.shp";
     Write_big_geojson(json);
     Write_big_shapefile(shapes);
-    const std::string rows = program + " '80 MB of GeoJSON' " + json + " && " + program +
+    const std::string rows = program + " '76 MB of GeoJSON' " + json + " && " + program +
                              " 'a 48 MB shapefile' " + shapes;
     return std::system(rows.c_str()) == 0 ? 0 : 1;
 }
