@@ -22,9 +22,16 @@ ShapefileBytes* Bytes_of(SAFile file) {
     return reinterpret_cast<ShapefileBytes*>(file);
 }
 
+// Shapelib asks for extensions in lower or upper case; the file's own may be in any.
 SAFile Open(const char* name, const char*) {
     const std::u8string utf8(name, name + std::strlen(name));
-    auto file = std::make_unique<ShapefileBytes>(fs::path(utf8));
+    const fs::path asked(utf8);
+    auto file = std::make_unique<ShapefileBytes>(asked);
+    if (file->Is_open()) return reinterpret_cast<SAFile>(file.release());
+    const std::u8string extension = In_lower_case(asked.extension().u8string());
+    const auto found = File_beside(asked, {extension.begin(), extension.end()});
+    if (!found) return nullptr;
+    file = std::make_unique<ShapefileBytes>(*found);
     return file->Is_open() ? reinterpret_cast<SAFile>(file.release()) : nullptr;
 }
 

@@ -162,10 +162,16 @@ TEST(CoastFilesTest, DamagedShapefilesAreRefusedInWords) {
         Damage(folder / one.File, one.At, one.Bytes);
         EXPECT_EQ(Text_of_reading(folder / "a.shp", {{-10, -10, 10, 10}}), one.Says);
     }
+}
+
+TEST(CoastFilesTest, AShapefileIsFoundInAnyCaseAndNeedsItsIndex) {
     const TemporaryFolder folder;
-    Write_shapefile(folder / "a.shp", "line 0,0 1,0 1,1 0,1");
-    std::filesystem::remove(folder / "a.shx");
-    EXPECT_EQ(Text_of_reading(folder / "a.shp", {}), "a.shp: its index a.shx is not beside it");
+    Write_shapefile(folder / "a.shp", "line 0,0 1,0");
+    std::filesystem::rename(folder / "a.shp", folder / "a.Shp");
+    std::filesystem::rename(folder / "a.shx", folder / "a.sHX");
+    EXPECT_EQ(Text_of_reading(folder / "a.Shp", {{-10, -10, 10, 10}}), "record 1 open 0,0 1,0");
+    std::filesystem::remove(folder / "a.sHX");
+    EXPECT_EQ(Text_of_reading(folder / "a.Shp", {}), "a.Shp: its index a.shx is not beside it");
 }
 
 TEST(CoastFilesTest, EachBoxHasItsOwnLinesAndReadingCanBeCancelled) {
