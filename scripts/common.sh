@@ -8,9 +8,10 @@ fail() {
     exit 1
 }
 
-build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev"
+build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev
+    rapidjson-dev libshp-dev libexpat1-dev"
 walk_packages="xvfb xauth openbox fonts-dejavu-extra"
-bench_packages="libbenchmark-dev libgeos-dev"
+bench_packages="libbenchmark-dev libgeos-dev gdal-bin"
 windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils wine wine64 zip"
 package_packages="appstream desktop-file-utils dpkg-dev groff libxml2-utils lintian"
 fuzz_packages="clang libclang-rt-14-dev"

@@ -12,8 +12,8 @@ namespace fs = std::filesystem;
 static bool May_include(const std::string& room, const std::string& other) {
     const bool is_base = room == "model" || room == "platform";
     const bool other_is_base = other == "model" || other == "platform";
-    const bool is_coast_over_lwm = room == "coast" && other == "lwm";
-    return room == "app" || room == other || (!is_base && other_is_base) || is_coast_over_lwm;
+    const bool is_coast_on_cells = room == "coast" && other == "lwm";
+    return room == "app" || room == other || is_coast_on_cells || (!is_base && other_is_base);
 }
 
 static bool Is_window(const std::string& name) {

@@ -1,0 +1,34 @@
+// Reading the lines of a coast file that touch the wanted boxes.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "coast/coast_input.h"
+#include "coast/coast_line.h"
+
+namespace tidemark {
+
+struct CoastFileReading {
+    // One list for each wanted box, in their order. None after a refusal and when it was cancelled.
+    std::vector<std::vector<CoastLine>> Lines;
+
+    std::optional<CoastRefusal> Refusal;
+    bool Cancelled = false;
+};
+
+// Reads GeoJSON (.geojson, .json), a shapefile (.shp with its .shx), KML (.kml) or GPX (.gpx); the
+// case of the extension does not matter. Positions are longitude and latitude in degrees. Damaged
+// files are refused as a whole. `progress` is asked now and then on this thread.
+//
+// Memory: what is kept, and of a shapefile the largest record that may touch a box.
+CoastFileReading Read_coast_file(const std::filesystem::path& path, std::span<const GeoBox> wanted,
+                                 const CoastProgress& progress = {});
+
+// "coast.geojson, line 12: what is wrong"
+std::string Refusal_text(const std::filesystem::path& path, const CoastRefusal& refusal);
+
+}  // namespace tidemark
