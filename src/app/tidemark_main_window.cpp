@@ -144,6 +144,7 @@ void TidemarkMain::Wire_tool_bar() {
     connect(&tool_bar_->GoTo(), &QAction::triggered, this, &TidemarkMain::Go_to);
     connect(&tool_bar_->ShowChosen(), &QAction::triggered, this, &TidemarkMain::Show_chosen);
     connect(tool_bar_, &ToolBar::Marks_changed, this, &TidemarkMain::Show_marks);
+    key_drawing_ = new KeyDrawing(*map_, tool_bar_->DrawByKeys(), document_, session_, this);
 }
 
 void TidemarkMain::Wire_status_panel() {

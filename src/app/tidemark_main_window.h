@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QMainWindow>
 
+#include "app/key_drawing_window.h"
 #include "app/map_commands.h"
 #include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
@@ -132,6 +133,7 @@ class TidemarkMain : public QMainWindow {
     MapView* map_;
     Status* status_;
     ToolBar* tool_bar_;
+    KeyDrawing* key_drawing_ = nullptr;
     ProjectWatch* watch_;
     StatusLine* status_line_;
     bool picture_is_gone_ = false;    // that the step last shown wants
