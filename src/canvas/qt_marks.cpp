@@ -7,7 +7,7 @@ namespace tidemark {
 namespace {
 
 constexpr int TintOpacity = 56;             // of 255
-constexpr int CrossGap = 5, CrossArm = 14;  // pixels from its middle
+constexpr int CrossGap = 5, CrossArm = 20;  // pixels from its middle
 
 QColor Qt_colour(Colour colour, int opacity = 255) {
     return QColor(colour.Red, colour.Green, colour.Blue, opacity);
@@ -56,9 +56,9 @@ void Paint_lines(QPainter& painter, const std::vector<MarkLine>& lines, double z
 
 void Paint_cross(QPainter& painter, CanvasPoint place, double zoom) {
     const QPointF middle = Zoomed(place, zoom);
-    for (const auto& [ink, width] : {std::pair{Qt::black, 5}, {Qt::white, 2}}) {
+    for (const auto& [ink, width] : {std::pair{Qt::black, 6}, {Qt::white, 3}}) {
         painter.setPen(QPen(ink, width, Qt::SolidLine, Qt::FlatCap));
-        const double longer = width > 2 ? 1.5 : 0;  // dark at the ends, too
+        const double longer = width > 3 ? 1.5 : 0;  // dark at the ends, too
         for (const QPointF way : {QPointF(1, 0), QPointF(-1, 0), QPointF(0, 1), QPointF(0, -1)})
             painter.drawLine(middle + way * (CrossGap - longer),
                              middle + way * (CrossArm + longer));
