@@ -59,10 +59,6 @@ TEST(KeyCrossTest, EveryStepIsOfTheLengthItIsSaidToBeAndStaysOnTheMap) {
     const ShownMap whole{{}, image, {9999, 9999}, 1};
     const Session start = cursor_at(Start_of_cross(project, 0, whole));
     EXPECT_TRUE(start.CursorVTPX == 5000 && start.CursorVTPY == 5300) << "the selected point";
-    project.ScaleX = 0;
-    const CanvasPoint place{10, 10};
-    EXPECT_EQ(Moved_cross(place, {1, 0, CrossStep::Unit}, project, whole), place);
-    EXPECT_EQ(Moved_cross(place, {1, 0, CrossStep::Pixel}, project, whole), (CanvasPoint{11, 10}));
 }
 
 }  // namespace tidemark
