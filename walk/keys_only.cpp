@@ -50,7 +50,8 @@ class KeysOnly {
     void Save();
     void Take_back(const Project& before);
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {}) {
-        QTest::keyClick(QApplication::activeWindow()->windowHandle(), key, held);
+        QWidget* const active = QApplication::activeWindow();
+        QTest::keyClick((active ? active : &window_)->windowHandle(), key, held);
     }
 
     // A window manager may have turned to the other window.
@@ -80,6 +81,7 @@ void KeysOnly::Go_to_window(QWidget& window) {
 void KeysOnly::Choose_mode(const QString& mode) {
     Go_to_window(panel_);
     auto& modes = Control<QComboBox>(panel_, "DrawModeCombo");
+    QTest::qWait(50);  // for the keyboard to follow
     for (int i = 0; i < 30 && !modes.hasFocus(); ++i) Key(Qt::Key_Tab);
     Key(Qt::Key_Home);
     for (int i = modes.findText(mode); i > 0; --i) Key(Qt::Key_Down);
@@ -110,8 +112,9 @@ void KeysOnly::Edit_point(int in_cell) {
         Type(Control<QLineEdit>(dialog, "LOD13X"), QString::number(in_cell));
         Press(dialog, Qt::Key_Enter);
     });
-    Key(Qt::Key_E);
+    Press(canvas_, Qt::Key_E);
     plan.Finish();
+    Come_to_front();
 }
 
 QPoint KeysOnly::Do_by_keys(const Act& act) {
@@ -127,9 +130,7 @@ void KeysOnly::Do_by_mouse(const Act& act, QPoint pixel) {
     if (act.Mode) Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), act.Mode);
     map_.Reveal({pixel.x() / map_.Scale().Zoom(), pixel.y() / map_.Scale().Zoom()});
     Click_at(canvas_, pixel, act.Button);
-    if (act.InCell < 0) return;
-    canvas_.setFocus();
-    Edit_point(act.InCell);
+    if (act.InCell >= 0) Edit_point(act.InCell);
 }
 
 void KeysOnly::Save() {
@@ -172,8 +173,7 @@ void Draw_with_keys_only(TidemarkMain& window, const std::function<void()>& is_d
     user.Take_back(*before);
     for (std::size_t i = 0; i < pixels.size(); ++i) user.Do_by_mouse(acts[i], pixels[i]);
     Check(now == *by_keys, "the mouse has made another project than the keys");
-    user.Come_to_front();
-    user.Key(Qt::Key_0, Qt::ControlModifier);
+    Control<MapView>(window, "MapView").Zoom_reset();
 }
 
 }  // namespace tidemark
