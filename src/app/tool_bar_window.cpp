@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "app/tool_icons_window.h"
+#include "coast/finding_choice.h"
 #include "platform/qt_drawn_icon.h"
 #include "platform/qt_text.h"
 
@@ -59,6 +60,9 @@ ToolBar::ToolBar(QWidget* parent)
     ShowChosen_ = Add_command(*this, "ShowChosen", "Show chosen", Drawn_icon(ShowChosenIcon()),
                               {Qt::CTRL | Qt::Key_J});
     for (QAction* const action : {Marks_, GoTo_, ShowChosen_}) action->setEnabled(false);
+    CoastCheck_ =
+        Add_command(*this, "CoastCheck", "Coast check", Drawn_icon(CoastCheckIcon()), {Qt::Key_F8});
+    Show_findings({});
     // What stands to the right of the level keeps its place.
     QWidget& level = *widgetForAction(ZoomReset_);
     ZoomReset_->setIconText("1600 %");
@@ -101,6 +105,16 @@ MarkKinds ToolBar::Wanted_marks() const {
 void ToolBar::Show_history(const Document& document) {
     Show_step(*EditUndo_, document.Can_undo(), document.What_undo());
     Show_step(*EditRedo_, document.Can_redo(), document.What_redo());
+}
+
+void ToolBar::Show_findings(const Findings& findings) {
+    const QString summary = To_qt(Findings_summary(findings));
+    auto& button = *qobject_cast<QToolButton*>(widgetForAction(CoastCheck_));
+    CoastCheck_->setIconText(QString::number(findings.size()));
+    CoastCheck_->setToolTip(Tip(*CoastCheck_, summary));
+    button.setAccessibleName(CoastCheck_->text() + ": " + summary);
+    button.setToolButtonStyle(findings.empty() ? Qt::ToolButtonIconOnly
+                                               : Qt::ToolButtonTextBesideIcon);
 }
 
 void ToolBar::Zoom(MapView& map) {

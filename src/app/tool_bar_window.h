@@ -7,6 +7,7 @@
 
 #include "canvas/map_marks.h"
 #include "canvas/map_view_window.h"
+#include "coast/finding.h"
 #include "model/document.h"
 
 namespace tidemark {
@@ -28,6 +29,9 @@ class ToolBar : public QToolBar {
     QAction& Marks() { return *Marks_; }
     QAction& GoTo() { return *GoTo_; }
     QAction& ShowChosen() { return *ShowChosen_; }
+    QAction& CoastCheck() { return *CoastCheck_; }
+    // How many findings there are stands beside the icon.
+    void Show_findings(const Findings& findings);
     // Which marks are wanted; all off while the marks are.
     MarkKinds Wanted_marks() const;
 
@@ -40,7 +44,7 @@ class ToolBar : public QToolBar {
 
     QAction* EditUndo_;
     QAction* EditRedo_;
-    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr;
+    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr, *CoastCheck_ = nullptr;
     std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds
     QAction* ZoomOut_;
     QAction* ZoomReset_;

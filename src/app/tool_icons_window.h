@@ -13,5 +13,6 @@ IconShapes ZoomWholeIcon();
 IconShapes MarksIcon();
 IconShapes GoToIcon();
 IconShapes ShowChosenIcon();
+IconShapes CoastCheckIcon();
 
 }  // namespace tidemark

@@ -72,7 +72,8 @@ void MapCanvas::paintEvent(QPaintEvent* event) {
         QPainter painter(this);
         painter.drawPixmap(visible.topLeft(), shown_);
         Paint_marks(painter, marks_, visible, scale_.Zoom());
-        Paint_marks(painter, pointer_frame_, visible, scale_.Zoom());
+        for (const MapMarks* const frame : {&finding_frame_, &pointer_frame_})
+            Paint_marks(painter, *frame, visible, scale_.Zoom());
         return;
     }
     // A picture may be taken of more than the viewport shows.
@@ -125,8 +126,16 @@ void MapCanvas::Show_marks(MapMarks marks) {
 }
 
 void MapCanvas::Show_pointer_frame(std::vector<MarkLine> frame) {
-    if (frame == pointer_frame_.Lines) return;
-    pointer_frame_.Lines = std::move(frame);
+    Show_frame(pointer_frame_, std::move(frame));
+}
+
+void MapCanvas::Show_finding_frame(std::vector<MarkLine> frame) {
+    Show_frame(finding_frame_, std::move(frame));
+}
+
+void MapCanvas::Show_frame(MapMarks& shown, std::vector<MarkLine> frame) {
+    if (frame == shown.Lines) return;
+    shown.Lines = std::move(frame);
     update();
 }
 

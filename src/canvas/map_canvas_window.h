@@ -36,6 +36,7 @@ class MapCanvas : public QWidget {
     // The layer above image and drawings; it does not touch what they look like.
     void Show_marks(MapMarks marks);
     void Show_pointer_frame(std::vector<MarkLine> frame);
+    void Show_finding_frame(std::vector<MarkLine> frame);
 
   Q_SIGNALS:
     void Mouse_moved(float x, float y);  // canvas pixels
@@ -59,12 +60,13 @@ class MapCanvas : public QWidget {
     void Bring_up_to_date(const QRect& visible);
     void Tell_pointer();
     void Show_hand();
+    void Show_frame(MapMarks& shown, std::vector<MarkLine> frame);
 
     MapScale scale_;
     MapPicture picture_;
     QtSurface surface_;
     MapMarks marks_;
-    MapMarks pointer_frame_;
+    MapMarks pointer_frame_, finding_frame_;
 
     // What the viewport shows, as the screen's own pixels: the image alone, so that scrolling
     // computes only what comes into view, and with the drawings, so that uncovering paints no line

@@ -44,6 +44,8 @@ class MapView : public QWidget {
     void Zoom_whole();
     // Scrolls so that a canvas pixel lies in the middle, as far as the map goes.
     void Center_on(CanvasPoint pixel);
+    // Whether all between two corners, canvas pixels, can be seen.
+    bool Is_in_view(CanvasPoint top_left, CanvasPoint bottom_right) const;
 
     // Where the mouse and the keys arrive, and what is drawn on.
     MapCanvas& Canvas() { return *Picture2_; }

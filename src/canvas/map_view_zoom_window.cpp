@@ -50,6 +50,15 @@ void MapView::Center_on(CanvasPoint pixel) {
     Pan_to(scale.Left(), scale.Top());
 }
 
+bool MapView::Is_in_view(CanvasPoint top_left, CanvasPoint bottom_right) const {
+    const CanvasPoint from = scale_.To_canvas({0, 0});
+    const ViewSize viewport = Viewport_size();
+    const CanvasPoint to = scale_.To_canvas(
+        {static_cast<double>(viewport.Width), static_cast<double>(viewport.Height)});
+    return from.X <= top_left.X && from.Y <= top_left.Y && bottom_right.X <= to.X &&
+           bottom_right.Y <= to.Y;
+}
+
 void MapView::Pan_to(int left, int top) {
     Move_to(qBound(0, left, HScroll1_->maximum()), qBound(0, top, VScroll1_->maximum()));
     Turn_bars();

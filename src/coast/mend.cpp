@@ -67,12 +67,22 @@ VTPRecord At_place(VTPRecord point, Position place) {
     return point;
 }
 
-// The points of the project as the work leaves them.
-std::vector<VTPRecord> Mended_points(const Project& p, const Work& work) {
-    std::vector<VTPRecord> points;
+// The points of the project as the work leaves them, and where the followed one is then; one that
+// is dropped shares its place with the one before it.
+struct MendedPoints {
+    std::vector<VTPRecord> Points;
+    int Followed;
+};
+
+MendedPoints Mended_points(const Project& p, const Work& work, int followed) {
+    MendedPoints mended{{}, followed};
+    std::vector<VTPRecord>& points = mended.Points;
     for (int i = 1; i <= p.VTPCount; ++i) {
         VTPRecord point = PointTable::Get(p, i);
-        if (work.Drop.contains(i)) continue;
+        if (work.Drop.contains(i)) {
+            if (i == followed) mended.Followed = static_cast<int>(points.size());
+            continue;
+        }
         if (work.MoveInside.contains(i)) point = At_place(point, Off_cell_edges(Place_of(point)));
         if (work.MoveToEdge.contains(i))
             point = At_place(point, Place_on_edge(p, i).value_or(Place_of(point)));
@@ -85,8 +95,9 @@ std::vector<VTPRecord> Mended_points(const Project& p, const Work& work) {
                 points.push_back(At_place(between, place));
         }
         points.push_back(point);
+        if (i == followed) mended.Followed = static_cast<int>(points.size());
     }
-    return points;
+    return mended;
 }
 
 void Store_points(Project& p, const std::vector<VTPRecord>& points) {
@@ -157,27 +168,29 @@ std::optional<Position> Place_on_edge(const Project& p, int end) {
     return nearest;
 }
 
-MendResult Mend(Project& project, std::span<const Finding> findings) {
+MendResult Mend(Project& project, std::span<const Finding> findings, int followed) {
     const Work work(findings);
-    const std::vector<VTPRecord> points = Mended_points(project, work);
-    if (std::string refusal = No_room_for(points.size(), project); !refusal.empty())
-        return {0, std::move(refusal)};
-    Store_points(project, points);
+    const MendedPoints mended = Mended_points(project, work, followed);
+    if (std::string refusal = No_room_for(mended.Points.size(), project); !refusal.empty())
+        return {0, std::move(refusal), followed};
+    Store_points(project, mended.Points);
     Rebuild_polygons(project, work.Rebuild);
     const auto has_remedy = [](const Finding& f) { return f.Mending != Remedy::None; };
-    return {static_cast<int>(std::count_if(findings.begin(), findings.end(), has_remedy)), ""};
+    return {static_cast<int>(std::count_if(findings.begin(), findings.end(), has_remedy)), "",
+            mended.Followed};
 }
 
-MendResult Mend_all(Project& project) {
-    MendResult all;
+MendResult Mend_all(Project& project, int followed) {
+    MendResult all{0, "", followed};
     Findings findings = Check_coast(project);
     for (int round = 0; round < MaxRounds && Has_remedy(findings); ++round) {
-        const MendResult result = Mend(project, findings);
+        const MendResult result = Mend(project, findings, all.Followed);
         if (!result.Refusal.empty()) {
             if (all.Mended == 0) all.Refusal = result.Refusal;
             break;
         }
         all.Mended += result.Mended;
+        all.Followed = result.Followed;
         findings = Check_coast(project);
     }
     return all;
