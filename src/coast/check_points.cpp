@@ -15,8 +15,9 @@ void Check_step(const Project& p, int point, Findings& findings) {
             findings.push_back({.Kind = FindingKind::SkippedCell,
                                 .Cell = cell,
                                 .Text = "the step from " + Point_text(point - 1) + " to " +
-                                        Point_text(point) + " skips cell " + Text_of(cell) +
-                                        ", which is built without it; insert a point there",
+                                        Point_text(point) +
+                                        " skips this cell, which is built without it; "
+                                        "put a point there",
                                 .Point = point,
                                 .Mending = Remedy::CutStep});
 }
@@ -58,8 +59,8 @@ void Check_edge_point(const Project& p, const Segment& coastline, int point, Fin
         return;
     findings.push_back({.Kind = FindingKind::Neighbours,
                         .Cell = cell,
-                        .Text = Point_text(point) + " is on the edge of its cell, where the " +
-                                "coastline does not cross it; move the point into the cell",
+                        .Text = Point_text(point) + " lies on the cell's edge, but the " +
+                                "coastline does not cross it there; move the point into the cell",
                         .Point = point,
                         .Mending = Remedy::MoveInside});
 }
@@ -70,7 +71,7 @@ void Check_segment(const Project& p, const Segment& segment, Findings& findings)
         findings.push_back({.Kind = FindingKind::Segment,
                             .Cell = cell,
                             .Text = "the segment at " + Point_text(segment.First) +
-                                    " has no other point, and the VTP file is refused; delete it "
+                                    " has no other point, and no VTP file can be saved; delete it "
                                     "or add a point to it",
                             .Point = segment.First});
     if (!Find_mode(segment.Mode, Adds::Point))
@@ -79,18 +80,22 @@ void Check_segment(const Project& p, const Segment& segment, Findings& findings)
                             .Text = "the segment at " + Point_text(segment.First) +
                                     " has the unknown drawing mode " +
                                     std::to_string(segment.Mode) +
-                                    ", and the VTP file is refused; delete it and draw it again",
+                                    ", and no VTP file can be saved; delete it and draw it again",
                             .Point = segment.First});
 }
 
 void Check_repeated_point(const Project& p, const Segment& segment, int point, Findings& findings) {
-    if (VTP_position(p, point - 1) != VTP_position(p, point)) return;
-    const bool is_whole_segment = segment.Last - segment.First == 1;
+    const auto is_here = [&](int other) {
+        return VTP_position(p, other) == VTP_position(p, point);
+    };
+    if (!is_here(point - 1)) return;
+    bool is_whole_segment = true;  // of which one point would be left
+    for (int i = segment.First; i <= segment.Last; ++i) is_whole_segment &= is_here(i);
     findings.push_back({.Kind = FindingKind::Segment,
                         .IsError = Is_coastline(segment.Mode),
                         .Cell = Cell_of_point(p, point),
-                        .Text = Point_text(point - 1) + " and " + Point_text(point) +
-                                " share a place; " +
+                        .Text = "points " + std::to_string(point - 1) + " and " +
+                                std::to_string(point) + " are at the same place; " +
                                 (is_whole_segment ? "move one of them" : "delete one of them"),
                         .Point = point,
                         .Mending = is_whole_segment ? Remedy::None : Remedy::DropPoint});

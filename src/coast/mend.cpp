@@ -107,15 +107,21 @@ void Store_points(Project& p, const std::vector<VTPRecord>& points) {
     Repair_segments(p);
 }
 
-void Rebuild_polygons(Project& p, const std::set<int>& polygons) {
-    if (polygons.empty()) return;
+void Rebuild_polygons(Project& p, const std::set<int>& wanted) {
+    if (wanted.empty()) return;
     const CoastSurvey survey(p);
-    for (const int polygon : polygons) {
-        const LOD13Cell cell{p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)};
-        const auto piece = Rebuilt(Stored_outline(p, polygon), survey.Candidates(cell));
-        if (!piece) continue;
-        Store_polygon(p, polygon, cell.Column, cell.Row, {p.LWMType(polygon), p.LWMHeight(polygon)},
-                      *piece);
+    for (const auto& [cell, polygons] : Polygons_by_cell(p)) {
+        const auto is_wanted = [&](int polygon) { return wanted.contains(polygon); };
+        if (std::none_of(polygons.begin(), polygons.end(), is_wanted)) continue;
+        std::vector<Outline> outlines;
+        for (const int polygon : polygons) outlines.push_back(Stored_outline(p, polygon));
+        const auto rebuilt = Rebuilt_together(outlines, survey.Candidates(cell));
+        for (std::size_t i = 0; i < polygons.size(); ++i) {
+            const int polygon = polygons[i];
+            if (!rebuilt[i] || !is_wanted(polygon)) continue;
+            Store_polygon(p, polygon, cell.Column, cell.Row,
+                          {p.LWMType(polygon), p.LWMHeight(polygon)}, *rebuilt[i]);
+        }
     }
 }
 
