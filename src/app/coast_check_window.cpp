@@ -31,7 +31,7 @@ class FindingLines : public QStyledItemDelegate {
         : QStyledItemDelegate(parent), findings_(findings) {}
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+        return {1, QStyledItemDelegate::sizeHint(option, index).height()};
     }
 
   protected:
@@ -141,13 +141,17 @@ std::vector<std::string> CoastCheck::Lines() const {
     return lines;
 }
 
+// Nothing is for all of them.
+std::optional<FindingKind> CoastCheck::Wanted_kind() const {
+    const int filter = KindFilter_->currentIndex();
+    if (filter <= 0) return std::nullopt;
+    return static_cast<FindingKind>(filter - 1);
+}
+
 // Shows the findings as they are now; what was chosen stays so.
 void CoastCheck::Refresh() {
     const Findings& findings = watch_.Current();
-    std::optional<FindingKind> kind;  // of all
-    if (const int filter = KindFilter_->currentIndex(); filter > 0)
-        kind = static_cast<FindingKind>(filter - 1);
-    const Findings before = std::exchange(shown_, Of_kind(findings, kind));
+    const Findings before = std::exchange(shown_, Of_kind(findings, Wanted_kind()));
     chosen_ = Chosen_after(before, chosen_, shown_);
     FindingList_->Refresh();
     int line = 0;
@@ -158,9 +162,12 @@ void CoastCheck::Refresh() {
     Show_chosen();
 }
 
+// What is not shown any more is not chosen either.
 void CoastCheck::Filter_chosen() {
+    const Finding* const chosen = Chosen();
+    const auto kind = Wanted_kind();
+    if (chosen && kind && chosen->Kind != *kind) chosen_ = -1;
     Refresh();
-    Q_EMIT Show_wanted();
 }
 
 void CoastCheck::Line_chosen() {

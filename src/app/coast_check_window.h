@@ -36,6 +36,7 @@ class CoastCheck : public QDialog {
   private:
     void Lay_out();
     std::vector<std::string> Lines() const;
+    std::optional<FindingKind> Wanted_kind() const;
     void Refresh();
     void Filter_chosen();
     void Line_chosen();

@@ -126,12 +126,12 @@ void Rebuild_polygons(Project& p, const std::set<int>& wanted) {
 }
 
 // Why there is no room for so many points; empty: there is.
-std::string No_room_for(std::size_t points, const Project& p) {
+std::string No_room_for(int points, const Project& p) {
     if (points <= MaxVTPCount) return "";
-    return "Nothing was mended: " +
-           std::to_string(points - static_cast<std::size_t>(int{p.VTPCount})) +
-           " more points are needed, and " + std::to_string(MaxVTPCount - p.VTPCount) +
-           " are free.";
+    const int needed = points - p.VTPCount, free = MaxVTPCount - p.VTPCount;
+    return "Nothing was mended: " + std::to_string(needed) + " more point" +
+           (needed == 1 ? " is" : "s are") + " needed, and " + std::to_string(free) +
+           (free == 1 ? " is" : " are") + " free.";
 }
 
 // An end of a coastline on the other side of the edge that this one is to meet: at most
@@ -177,7 +177,8 @@ std::optional<Position> Place_on_edge(const Project& p, int end) {
 MendResult Mend(Project& project, std::span<const Finding> findings, int followed) {
     const Work work(findings);
     const MendedPoints mended = Mended_points(project, work, followed);
-    if (std::string refusal = No_room_for(mended.Points.size(), project); !refusal.empty())
+    if (std::string refusal = No_room_for(static_cast<int>(mended.Points.size()), project);
+        !refusal.empty())
         return {0, std::move(refusal), followed};
     Store_points(project, mended.Points);
     Rebuild_polygons(project, work.Rebuild);
