@@ -15,7 +15,7 @@ namespace {
 
 constexpr int LineLength = 72;  // characters of a line that are seen without widening
 constexpr int LinesOfText = 3;  // of the chosen finding
-constexpr int LinesOfList = 12;
+constexpr int LinesOfList = 10;
 
 // Readable on a light and on a dark ground.
 QColor Ink_of(const Finding& finding, const QPalette& palette) {

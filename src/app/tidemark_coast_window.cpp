@@ -1,5 +1,7 @@
 // The main window's part in the coast check: the findings on the map, in the lists and in the
 // status bar.
+#include <QScreen>
+
 #include "app/tidemark_main_window.h"
 #include "canvas/map_frame.h"
 #include "coast/finding_choice.h"
@@ -21,10 +23,24 @@ void TidemarkMain::CoastCheck_Click() {
         connect(coast_check_, &CoastCheck::Show_wanted, this,
                 &TidemarkMain::Bring_finding_into_view);
         connect(coast_check_, &CoastCheck::Go_wanted, this, &TidemarkMain::Go_to_finding);
+        Place_coast_check();
     }
     coast_check_->show();
     coast_check_->raise();
     coast_check_->activateWindow();
+}
+
+// In a corner of the map, as its middle is where findings come into view; on a screen that is too
+// small for that, over the Status panel.
+void TidemarkMain::Place_coast_check() {
+    constexpr int title_height = 48;  // about what a window frame adds
+    coast_check_->adjustSize();
+    const QRect map(map_->mapToGlobal(QPoint(0, 0)), map_->size());
+    const QRect area = screen()->availableGeometry();
+    QRect place({0, 0}, coast_check_->size() + QSize(0, title_height));
+    place.moveBottomLeft(map.bottomLeft());
+    if (place.contains(map.center())) place.moveBottomRight(area.bottomRight());
+    coast_check_->move(place.left(), qMax(place.top(), area.top()));
 }
 
 // The frame of the chosen finding's cell; no lines when none is chosen, or it is beside the map.
@@ -36,7 +52,15 @@ std::vector<MarkLine> TidemarkMain::Frame_of_finding() {
 
 void TidemarkMain::Bring_finding_into_view() {
     const std::vector<MarkLine> frame = Frame_of_finding();
-    if (frame.empty() || map_->Is_in_view(frame[0].From, frame[1].To)) return;
+    if (frame.empty()) return;
+    const CanvasPoint from = frame[0].From, to = frame[1].To;
+    const auto on_screen = [this](CanvasPoint point) {
+        const QPointF zoomed = QPointF(point.X, point.Y) * map_->Scale().Zoom();
+        return map_->Canvas().mapToGlobal(zoomed.toPoint());
+    };
+    const bool is_covered =
+        coast_check_->frameGeometry().intersects(QRect(on_screen(from), on_screen(to)));
+    if (map_->Is_in_view(from, to) && !is_covered) return;
     const auto place = Place_of_finding(document_.Now(), *coast_check_->Chosen());
     Show_place({(*place)[0], (*place)[1]});
 }

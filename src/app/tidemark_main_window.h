@@ -110,6 +110,7 @@ class TidemarkMain : public QMainWindow {
     // The coast check, in tidemark_coast_window.cpp.
     void Wire_coast_check();
     void CoastCheck_Click();
+    void Place_coast_check();
     std::vector<MarkLine> Frame_of_finding();
     void Bring_finding_into_view();
     void Go_to_finding(const Finding& finding);
