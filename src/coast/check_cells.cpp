@@ -123,14 +123,19 @@ bool Is_itself(const Project& p, const BoundaryPoint& crossing) {
     return Place_in_cell(p, crossing.Origin) == crossing.Place;
 }
 
-// The places where coastlines cross the cell's edge, but for that of one that starts on the edge
-// and leaves the cell right there: of it, nothing is in the cell.
+// Where coastlines cross the cell's edge; but one that starts on the edge and leaves the cell right
+// there has nothing in it, and does no harm where no other crosses at that place.
 std::vector<BoundaryPoint> Passages(const Project& p, const SurveyedCell& cell) {
     std::vector<BoundaryPoint> passages;
     for (const BoundaryPoint& crossing : cell.Crossings) {
-        const bool leaves_at_once = !passages.empty() && passages.back().Place == crossing.Place &&
-                                    passages.back().Origin + 1 == crossing.Origin &&
-                                    p.VTPSegStart(passages.back().Origin);
+        const auto is_here = [&](const BoundaryPoint& other) {
+            return other.Place == crossing.Place;
+        };
+        const bool leaves_at_once =
+            !passages.empty() && is_here(passages.back()) &&
+            passages.back().Origin + 1 == crossing.Origin &&
+            p.VTPSegStart(passages.back().Origin) &&
+            std::count_if(cell.Crossings.begin(), cell.Crossings.end(), is_here) == 2;
         if (leaves_at_once)
             passages.pop_back();
         else
