@@ -14,11 +14,12 @@ struct CompanionTask {
     std::vector<std::string> Projects;
 };
 
-// Writes the assembler files of each project: the VTP file, and the LWM file when there are
-// polygons. A name that the project does not hold is the project's own with -VTP.asm or -LWM.asm.
-// Prints a line for each file written to `out`; refusals go to `errors` after the project's name.
-// The two files of a project, and the projects, do not depend on one another, but no file is
-// written twice, and none is replaced that was not written here. True when nothing was refused.
+// Writes the assembler files of each project: the VTP file, unless polygons are all that there is
+// to write, and the LWM file when there are polygons. A name that the project does not hold is the
+// project's own with -VTP.asm or -LWM.asm. Prints a line for each file written to `out`; refusals
+// go to `errors` after the project's name. The two files of a project, and the projects, do not
+// depend on one another, but no file is written twice, and none is replaced that was not written
+// here. True when nothing was refused.
 bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
                            std::ostream& errors);
 
