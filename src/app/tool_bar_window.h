@@ -28,6 +28,7 @@ class ToolBar : public QToolBar {
     QAction& Marks() { return *Marks_; }
     QAction& GoTo() { return *GoTo_; }
     QAction& ShowChosen() { return *ShowChosen_; }
+    QAction& DrawByKeys() { return *DrawByKeys_; }
     QAction& FillCoast() { return *FillCoast_; }
     QAction& ClearCoast() { return *ClearCoast_; }
     // Which marks are wanted; all off while the marks are.
@@ -42,7 +43,7 @@ class ToolBar : public QToolBar {
 
     QAction* EditUndo_;
     QAction* EditRedo_;
-    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr;
+    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr, *DrawByKeys_ = nullptr;
     QAction *FillCoast_ = nullptr, *ClearCoast_ = nullptr;
     std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds
     QAction* ZoomOut_;
