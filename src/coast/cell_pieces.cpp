@@ -86,6 +86,13 @@ bool CellPieces::Assign(std::vector<CellPoint> crossings) {
     return true;
 }
 
+std::size_t CellPieces::Piece_after(CellPoint crossing) const {
+    const int way = Way_to(crossing);
+    const auto found = std::find_if(stretches_.begin(), stretches_.end(),
+                                    [=](const Stretch& stretch) { return stretch.Start == way; });
+    return found == stretches_.end() ? 0 : found->Piece;
+}
+
 std::size_t CellPieces::Piece_at(EdgeType side, int half_units) const {
     if (stretches_.empty()) return 0;
     const auto next =

@@ -25,6 +25,9 @@ class CellPieces {
     // there must be no crossing at it.
     std::size_t Piece_at(EdgeType side, int half_units) const;
 
+    // The piece that has the boundary from a crossing on, clockwise.
+    std::size_t Piece_after(CellPoint crossing) const;
+
     // Pieces of the same parity are all water or all land.
     bool Parity(std::size_t piece) const { return !parities_.empty() && parities_[piece]; }
 

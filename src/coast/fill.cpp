@@ -51,14 +51,22 @@ class Filling {
         plan_.Free = MaxLWMCount - p_.LWMCount;
         const LOD13Cell start{p_.LWMCell(polygon, 0), p_.LWMCell(polygon, 1)};
         first_ = {p_.LWMType(polygon), p_.LWMHeight(polygon)};
+        takes_all_pieces_ = options_.Water && options_.Land;
         Begin(start, Stored_outline(p_, polygon));
-        while (!ahead_.empty()) {
-            const Place place = ahead_.front();
-            ahead_.pop_front();
-            Visit(place);
+        Go_on();
+        return Planned();
+    }
+
+    FillPlan Plan(std::span<const KnownShore> shores) {
+        plan_.Free = MaxLWMCount - p_.LWMCount;
+        first_ = {WaterPolygon, 0};
+        takes_all_pieces_ = true;
+        for (const SurveyedCell& cell : survey_.Cells()) {
+            if (reached_.contains(cell.Cell) || !Is_wanted(cell.Cell)) continue;
+            Begin(cell, shores);
+            Go_on();
         }
-        for (auto& [cell, why] : stops_) plan_.Stops.push_back({cell, std::move(why)});
-        return std::move(plan_);
+        return Planned();
     }
 
   private:
@@ -98,6 +106,76 @@ class Filling {
         const bool has_inner = Has_inner(start);
         Reach(start, std::move(pieces), piece, is_water != has_inner);
         if (Wants(is_water)) Add({start, piece});
+    }
+
+    // From a cell that one of the coastlines runs through.
+    void Begin(const SurveyedCell& cell, std::span<const KnownShore> shores) {
+        for (const KnownShore& shore : shores) {
+            const auto is_of_shore = [&](int point) {
+                return shore.First <= point && point <= shore.Last;
+            };
+            const auto crossing =
+                std::find_if(cell.Crossings.begin(), cell.Crossings.end(),
+                             [&](const BoundaryPoint& point) { return is_of_shore(point.Origin); });
+            const bool is_inside = Has_inner(cell.Cell) && is_of_shore(cell.Inner.front().first);
+            if (crossing == cell.Crossings.end() && !is_inside) continue;
+            if (const auto error = errors_.find(cell.Cell); error != errors_.end()) {
+                stops_.emplace(cell.Cell, error->second);
+                return;
+            }
+            CellPieces pieces = Pieces_of(cell.Cell);
+            if (!pieces.Fit() || pieces.Pieces().empty()) {
+                stops_.emplace(cell.Cell, "coastlines cross one another");
+                return;
+            }
+            // Clockwise along the boundary from where a coastline enters lies its left side, from
+            // where it leaves its right one.
+            std::size_t piece = 0;
+            bool is_land = Runs_clockwise(pieces.Pieces().front()) == shore.LandOnLeft;
+            if (!is_inside) {
+                piece = pieces.Piece_after(crossing->Place);
+                is_land = Enters(cell.Cell, *crossing) == shore.LandOnLeft;
+            }
+            Reach(cell.Cell, std::move(pieces), piece, !is_land);
+            return;
+        }
+    }
+
+    // A line that goes round clockwise has its outside on the left.
+    static bool Runs_clockwise(const Outline& outline) {
+        int twice_area = 0;
+        for (std::size_t i = 0; i < outline.size(); ++i) {
+            const CellPoint a = outline[i], b = outline[i + 1 == outline.size() ? 0 : i + 1];
+            twice_area += int{a.X} * int{b.Y} - int{b.X} * int{a.Y};
+        }
+        return twice_area > 0;
+    }
+
+    // Whether the coastline comes into the cell at the crossing: what is after it lies inside.
+    bool Enters(LOD13Cell cell, const BoundaryPoint& crossing) const {
+        const int point = crossing.Origin;
+        const bool is_point_inside = Cell_of({p_.VTPPoint(point, 0), p_.VTPPoint(point, 1)}) ==
+                                     Position{cell.Column, cell.Row};
+        return is_point_inside && (p_.VTPSegStart(point) || !p_.VTPSegEnd(point) ||
+                                   !Is_at(point, cell, crossing.Place));
+    }
+
+    bool Is_at(int point, LOD13Cell cell, CellPoint place) const {
+        return p_.VTPPoint(point, 0) == First_unit(cell.Column) + place.X &&
+               p_.VTPPoint(point, 1) == First_unit(cell.Row) + place.Y;
+    }
+
+    void Go_on() {
+        while (!ahead_.empty()) {
+            const Place place = ahead_.front();
+            ahead_.pop_front();
+            Visit(place);
+        }
+    }
+
+    FillPlan Planned() {
+        for (auto& [cell, why] : stops_) plan_.Stops.push_back({cell, std::move(why)});
+        return std::move(plan_);
     }
 
     bool Wants(bool is_water) const { return is_water ? options_.Water : options_.Land; }
@@ -140,8 +218,7 @@ class Filling {
             stops_.emplace(cell, "a coastline lies inside; around it nothing can be built");
         for (std::size_t k = 0; k < reached.Pieces.Pieces().size(); ++k) {
             const bool is_other = Is_water(reached, k) != (first_.Type == WaterPolygon);
-            const bool is_both = options_.Water && options_.Land;
-            if ((is_both || is_other) && Wants(Is_water(reached, k))) Add({cell, k});
+            if ((takes_all_pieces_ || is_other) && Wants(Is_water(reached, k))) Add({cell, k});
         }
         if (has_inner) Go_on_from(cell, 0, reached);
         return reached;
@@ -252,6 +329,7 @@ class Filling {
     std::map<LOD13Cell, std::string> errors_;
     std::map<LOD13Cell, std::vector<int>> present_;  // the polygons of a cell
     PolygonKind first_;
+    bool takes_all_pieces_ = false;  // of the wanted kinds, in every cell that is reached
     std::map<LOD13Cell, ReachedCell> reached_;
     std::set<Place> seen_;
     std::deque<Place> ahead_;
@@ -266,6 +344,11 @@ FillPlan Plan_fill(const Project& project, int polygon, const FillOptions& optio
     FillPlan nothing;
     nothing.Refusal = "Choose a polygon in the list of LWM polygons first.";
     return nothing;
+}
+
+FillPlan Plan_fill(const Project& project, std::span<const KnownShore> shores,
+                   const FillOptions& options) {
+    return Filling(project, options).Plan(shores);
 }
 
 std::string Fill_count_text(const FillPlan& plan) {

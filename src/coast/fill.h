@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,17 @@ struct FillPlan {
 // height; others are water at 0 metres and land that conforms. It stops at the edge of the map and
 // at cells in which the coast check has found an error.
 FillPlan Plan_fill(const Project& project, int polygon, const FillOptions& options);
+
+// Points First..Last of a coastline of which the land side is known.
+struct KnownShore {
+    int First, Last;
+    bool LandOnLeft;
+};
+
+// The same from every cell that one of these coastlines runs through: all its pieces of the wanted
+// kinds. Water lies at 0 metres, land conforms.
+FillPlan Plan_fill(const Project& project, std::span<const KnownShore> shores,
+                   const FillOptions& options);
 
 // "148 cells; 148 polygons needed, 177 free".
 std::string Fill_count_text(const FillPlan& plan);

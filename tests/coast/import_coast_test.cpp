@@ -1,0 +1,112 @@
+// Coasts from files are laid into the map so that the check finds nothing, and filled both ways.
+#include "coast/import_coast.h"
+
+#include "coast/cell_mask.h"
+#include "coast/check.h"
+#include "coast/coast_file.h"
+#include "coast/coast_survey.h"
+#include "coast/map_line.h"
+#include "fakes/random_coast.h"
+#include "fakes/rules_test.h"
+
+namespace tidemark {
+
+// Half of the way, pushed aside, and so on: many small bays and headlands.
+static void Roughen(std::vector<MapPoint>& line, MapPoint to, RandomNumbers& random) {
+    const MapPoint from = line.back();
+    const double dx = to.X - from.X, dy = to.Y - from.Y;
+    if (std::hypot(dx, dy) < 3) return line.push_back(to);
+    const double aside = random.Number(-6, 6) / 100.0;
+    Roughen(line, {from.X + dx / 2 - dy * aside, from.Y + dy / 2 + dx * aside}, random);
+    Roughen(line, to, random);
+}
+
+// Land and water by turns from north to south, and islands of the other kind.
+static std::vector<CoastLine> Rough_coast(const Project& map, unsigned seed) {
+    RandomNumbers random(seed);
+    const GeoBox box = Map_box(map);
+    std::vector<CoastLine> lines;
+    std::vector<MapPoint> rough;
+    std::vector<Position> last;
+    bool is_land = true;
+    for (const std::vector<Position>& drawn : RandomCoast(seed).Lines()) {
+        CoastLine& line = lines.emplace_back();
+        line.Ring = drawn.front() == drawn.back();
+        line.LandOnLeft = is_land;
+        if (!line.Ring) is_land = !is_land;
+        if (last.size() == drawn.size() && last[1][0] == drawn[1][0]) {  // the other bank
+            for (MapPoint& point : rough) point.Y += drawn[0][1] - last[0][1];
+        } else {
+            rough = {{double(drawn[0][0]), double(drawn[0][1])}};
+            for (std::size_t i = 1; i < drawn.size(); ++i)
+                Roughen(rough, {double(drawn[i][0]), double(drawn[i][1])}, random);
+        }
+        last = drawn;
+        if (line.Ring) rough.pop_back();
+        for (const auto [x, y] : rough)
+            line.Positions.push_back(
+                {box.West + (x - FirstVTP + 0.5) / 8192 * (box.East - box.West),
+                 box.North - (y - FirstVTP + 0.5) / 8192 * (box.North - box.South)});
+    }
+    return lines;
+}
+
+// Nothing but remarks, and every coast cell built to its last square.
+static void Expect_built(Project& project, const LaidCoast& coast) {
+    ASSERT_TRUE(coast.Fits);
+    ImportResult result =
+        Import_coast(project, coast, {.ClearCells = true, .FillWater = true, .FillLand = true});
+    EXPECT_EQ(result.Refusal, "");
+    for (const Finding& error : result.Errors) ADD_FAILURE() << Finding_line(error);
+    std::map<LOD13Cell, CellMask> cells;
+    for (const auto& [cell, kind, outline] : result.Filled.Polygons) {
+        const CellMask mask(outline);
+        EXPECT_EQ(cells[cell].Common_area(mask), 0) << cell.Column << ", " << cell.Row;
+        cells[cell] |= mask;
+    }
+    const CoastSurvey survey(project);
+    for (const SurveyedCell& cell : survey.Cells()) {
+        if (cell.Crossings.empty()) continue;
+        EXPECT_EQ(cells[cell.Cell].Area(), MaskSize * MaskSize)
+            << cell.Cell.Column << ", " << cell.Cell.Row;
+    }
+}
+
+static std::unique_ptr<Project> Whole_cell() {
+    return Project_of({});
+}
+
+TEST(ImportCoastTest, RoughCoastsAreLaidWithoutAnErrorAndFilledBothWays) {
+    for (unsigned seed = 1; seed <= 10; ++seed) {
+        SCOPED_TRACE(seed);
+        const auto project = Whole_cell();
+        const LaidCoast coast = Lay_coast(*project, Rough_coast(*project, seed), {});
+        EXPECT_LE(coast.Deviation, coast.Tolerance + 4) << "what cell edges ask for";
+        Expect_built(*project, coast);
+    }
+}
+
+// Its 1024 cells hold what a real coast has; all of it needs more polygons than a project holds.
+TEST(ImportCoastTest, TheGoldenGatesFileIsLaidWithoutAnErrorWhateverTheTolerance) {
+    const auto project = Whole_cell();
+    project->BGLOD8X = 122;
+    project->BGLOD8Y = 148;
+    const GeoBox box = Map_box(*project);
+    const CoastFileReading reading = Read_coast_file(
+        TIDEMARK_SOURCE_DIR "/sample/golden-gate-coastline.geojson", std::span(&box, 1));
+    ASSERT_FALSE(reading.Refusal);
+    for (const double tolerance : {0.5, 4.0, 20.0, 100.0}) {
+        SCOPED_TRACE(tolerance);
+        Project imported = *project;
+        const LaidCoast coast =
+            Lay_coast(imported, reading.Lines.front(), {.Tolerance = tolerance});
+        EXPECT_THAT(coast.Dropped, testing::IsEmpty());
+        EXPECT_LE(coast.Deviation, tolerance + 4);
+        const ImportResult result =
+            Import_coast(imported, coast, {.FillWater = true, .FillLand = true});
+        EXPECT_THAT(result.Errors, testing::IsEmpty());
+        EXPECT_EQ(result.Filled.Fits(), imported.LWMCount > 0);
+    }
+}
+
+}  // namespace tidemark
