@@ -77,7 +77,7 @@ void ImportCoast::Lay_out() {
     choices->addLayout(File_row());
     choices->addLayout(Fields());
     for (QCheckBox* const box : {ReverseCheck_, ClearCellsCheck_, FillWaterCheck_, FillLandCheck_})
-        choices->addWidget(box);
+        choices->addWidget(box, 0, Qt::AlignLeft);
 
     auto* const column = new QVBoxLayout(this);
     column->addWidget(choices_);

@@ -100,6 +100,7 @@ ImportResult Import_coast_file(Document& document, Session& session, const Coast
         ImportResult result = Import_coast(project, import.Coast, import.Options);
         if (!result.Refusal.empty()) return result;
         session.DataChanged = true;
+        session.Panel.NewSegment = true;  // the next click is to leave the coast as it is
         Refresh_lists(project, session);
         return result;
     });

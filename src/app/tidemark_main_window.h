@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 #include "app/fill_coast_window.h"
+#include "app/import_coast_window.h"
 #include "app/map_commands.h"
 #include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
@@ -99,6 +100,7 @@ class TidemarkMain : public QMainWindow {
     void Go_to();
     void Show_chosen();
     void Fill_coast();
+    void Import_coast(const QString& path);
     void Show_place(VTPPlace place);
     void Show_marks();
     void EditButton_Click();
@@ -145,6 +147,8 @@ class TidemarkMain : public QMainWindow {
     CellCalculator* calculator_ = nullptr;
     GoTo* go_to_ = nullptr;
     FillCoast* fill_coast_ = nullptr;
+    ImportCoast* import_coast_ = nullptr;
+    std::vector<MarkLine> preview_;  // of what is being imported
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

@@ -174,7 +174,9 @@ void TidemarkMain::Refresh_Graphics() {
 
 void TidemarkMain::Show_marks() {
     const MarkKinds kinds = tool_bar_->Wanted_marks();
-    map_->Canvas().Show_marks(Marks_of(document_.Now(), session_, kinds));
+    MapMarks marks = Marks_of(document_.Now(), session_, kinds);
+    marks.Lines.insert(marks.Lines.end(), preview_.begin(), preview_.end());
+    map_->Canvas().Show_marks(std::move(marks));
     if (!kinds.Pointer) map_->Canvas().Show_pointer_frame({});
 }
 
@@ -196,6 +198,20 @@ void TidemarkMain::Fill_coast() {
     if (!plan) return;
     Fill_along_coast(document_, session_, *plan);
     Say(std::to_string(plan->Polygons.size()) + " polygons added along the coast.");
+}
+
+void TidemarkMain::Import_coast(const QString& path) {
+    if (!Has_map_area(document_.Now())) return Say(std::string(NoMapAreaText));
+    if (!import_coast_) {
+        import_coast_ = new ImportCoast(platform_, this);
+        connect(import_coast_, &ImportCoast::Preview_changed, this,
+                [this](const std::vector<MarkLine>& lines) {
+                    preview_ = lines;
+                    Show_marks();
+                });
+    }
+    const auto wanted = import_coast_->Ask(document_.Now(), path);
+    if (wanted) Say(Imported_text(wanted->Coast, Import_coast_file(document_, session_, *wanted)));
 }
 
 void TidemarkMain::Show_place(VTPPlace place) {

@@ -63,6 +63,8 @@ ToolBar::ToolBar(QWidget* parent)
                              Drawn_icon(FillCoastIcon()), {Qt::CTRL | Qt::Key_F});
     ClearCoast_ = Add_command(*this, "ClearCoast", "Clear along the coast",
                               Drawn_icon(ClearCoastIcon()), {Qt::CTRL | Qt::Key_K});
+    ImportCoast_ = Add_command(*this, "ImportCoast", "Import coast", Drawn_icon(ImportCoastIcon()),
+                               {Qt::CTRL | Qt::Key_I});
     for (QAction* const action : {Marks_, GoTo_, ShowChosen_}) action->setEnabled(false);
     // What stands to the right of the level keeps its place.
     QWidget& level = *widgetForAction(ZoomReset_);

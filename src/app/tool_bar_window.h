@@ -30,6 +30,7 @@ class ToolBar : public QToolBar {
     QAction& ShowChosen() { return *ShowChosen_; }
     QAction& FillCoast() { return *FillCoast_; }
     QAction& ClearCoast() { return *ClearCoast_; }
+    QAction& ImportCoast() { return *ImportCoast_; }
     // Which marks are wanted; all off while the marks are.
     MarkKinds Wanted_marks() const;
 
@@ -44,6 +45,7 @@ class ToolBar : public QToolBar {
     QAction* EditRedo_;
     QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr;
     QAction *FillCoast_ = nullptr, *ClearCoast_ = nullptr;
+    QAction* ImportCoast_ = nullptr;
     std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds
     QAction* ZoomOut_;
     QAction* ZoomReset_;

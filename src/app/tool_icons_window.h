@@ -15,5 +15,6 @@ IconShapes GoToIcon();
 IconShapes ShowChosenIcon();
 IconShapes FillCoastIcon();
 IconShapes ClearCoastIcon();
+IconShapes ImportCoastIcon();
 
 }  // namespace tidemark
