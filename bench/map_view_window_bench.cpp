@@ -99,11 +99,15 @@ void Scroll(benchmark::State& state, const char* format) {
     Scroll_at(state, map, 8000);
 }
 
-void Scroll_zoomed(benchmark::State& state, const char* level) {
-    OpenMap map(Scan::Large("jpeg"), {10000, 10000}, LargeWindow);
-    const auto step = level[2] == ' ' ? &MapView::Zoom_out : &MapView::Zoom_in;
-    while (map.view.Scale().Percent() != level) (map.view.*step)();
+void Zoom_to(OpenMap& map, double level) {
+    while (map.view.Scale().Zoom() < level) map.view.Zoom_in();
+    while (map.view.Scale().Zoom() > level) map.view.Zoom_out();
     QCoreApplication::processEvents();
+}
+
+void Scroll_zoomed(benchmark::State& state, double level) {
+    OpenMap map(Scan::Large("jpeg"), {10000, 10000}, LargeWindow);
+    Zoom_to(map, level);
     Scroll_at(state, map, 80000);
 }
 
@@ -216,6 +220,28 @@ void Move_mouse(benchmark::State& state) {
     }
 }
 
+// Every move leads into another cell, and shows its frame among the marks of the whole map.
+void Move_mouse_over_marks(benchmark::State& state) {
+    OpenMap map(Scan::Large("jpeg"), {10000, 10000}, LargeWindow);
+    Zoom_to(map, SmallestLevel);
+    Session session;
+    map.project->BGLOD13tlX = map.project->BGLOD13tlY = 0;
+    map.project->BGLOD13brX = map.project->BGLOD13brY = 31;
+    map.canvas.Show_marks(Marks_of(*map.project, session, {}));
+    QObject::connect(&map.canvas, &MapCanvas::Mouse_moved, [&](float x, float y) {
+        Move_cursor(*map.project, session, x, y);
+        map.canvas.Show_pointer_frame(Pointer_frame(*map.project, session));
+    });
+    int x = 0;
+    for (auto _ : state) {
+        x = (x + 60) % 1200;
+        const QPointF at(x, 500);
+        QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {});
+        QCoreApplication::sendEvent(&map.canvas, &move);
+        QCoreApplication::processEvents();
+    }
+}
+
 template <class Function, class... Arguments>
 auto* Register(const char* name, Function function, Arguments... arguments) {
     return benchmark::RegisterBenchmark(name, function, arguments...)->UseRealTime();
@@ -229,10 +255,13 @@ const bool registered = [] {
     Register("resizing the window over the JPEG [16 ms]|tidemark", Resize);
     Register("a frame of scrolling the JPEG [16 ms]|tidemark", Scroll, "jpeg");
     Register("a frame of scrolling the 8-bit BMP [16 ms]|tidemark", Scroll, "bmp");
-    Register("a frame of scrolling it at 25 % [16 ms]|tidemark", Scroll_zoomed, "25 %");
-    Register("a frame of scrolling it at 50 % [16 ms]|tidemark", Scroll_zoomed, "50 %");
-    Register("a frame of scrolling it at 200 % [16 ms]|tidemark", Scroll_zoomed, "200 %");
-    Register("a frame of scrolling it at 800 % [16 ms]|tidemark", Scroll_zoomed, "800 %");
+    for (double level = SmallestLevel, last = 0; level != last; level = Next_level(level)) {
+        MapScale scale;
+        scale.Zoom_to(level, {});
+        Register(("a frame of scrolling it at " + scale.Percent() + " [16 ms]|tidemark").c_str(),
+                 Scroll_zoomed, level);
+        last = level;
+    }
     Register("a zoom step of the JPEG with its redraw [33 ms]|tidemark", Zoom)->Iterations(60);
     Register("first view of the whole JPEG [0.5x]|tidemark", First_shrunk_view);
     Register("first view of the whole JPEG [0.5x]|Qt's decoding", Decode, "jpeg");
@@ -240,6 +269,7 @@ const bool registered = [] {
     Register("redrawing 47,000 lines in the window [1.3x]|QPainter", Hand_to_painter);
     Register("uncovering them|tidemark", Uncover);
     Register("moving the mouse [50 us]|tidemark", Move_mouse);
+    Register("moving the mouse with all marks on [1 ms]|tidemark", Move_mouse_over_marks);
     return true;
 }();
 

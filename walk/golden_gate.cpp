@@ -11,6 +11,7 @@
 #include <QScrollBar>
 
 #include "walk/driver.h"
+#include "walk/keys_only.h"
 #include "walk/picture_strip.h"
 
 namespace tidemark {
@@ -61,6 +62,9 @@ class Walk {
     void Save_the_project();
     void Write_both_files();
     void Compile_and_copy(const QString& compiler);
+    void Draw_without_the_mouse() {
+        Draw_with_keys_only(window_, [this] { Take_picture("drawing-by-keys"); });
+    }
     void Open_the_sample();
     void Exit_through_the_question();
 
@@ -297,12 +301,14 @@ void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     walk.Save_the_project();
     walk.Write_both_files();
     walk.Compile_and_copy(folders.Compiler);
+    walk.Draw_without_the_mouse();
     walk.Open_the_sample();
     walk.Exit_through_the_question();
-    Save_picture_strip({"empty.png", "background-properties.png", "cell-calculator.png",
-                        "drawing.png", "edit-point.png", "polygons.png", "preferences.png",
-                        "compiling.png", "copied.png", "main-window.png", "exit-question.png"},
-                       "strip.png");
+    Save_picture_strip(
+        {"empty.png", "background-properties.png", "cell-calculator.png", "drawing.png",
+         "edit-point.png", "polygons.png", "preferences.png", "compiling.png", "copied.png",
+         "drawing-by-keys.png", "main-window.png", "exit-question.png"},
+        "strip.png");
 }
 
 }  // namespace tidemark

@@ -149,6 +149,7 @@ void TidemarkMain::Wire_tool_bar() {
             [this] { Say(Clear_along_coast(document_, session_)); });
     connect(&tool_bar_->ImportCoast(), &QAction::triggered, this, [this] { Import_coast(""); });
     connect(tool_bar_, &ToolBar::Marks_changed, this, &TidemarkMain::Show_marks);
+    key_drawing_ = new KeyDrawing(*map_, tool_bar_->DrawByKeys(), document_, session_, this);
 }
 
 void TidemarkMain::Wire_status_panel() {

@@ -8,6 +8,7 @@
 
 #include "app/fill_coast_window.h"
 #include "app/import_coast_window.h"
+#include "app/key_drawing_window.h"
 #include "app/map_commands.h"
 #include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
@@ -136,6 +137,7 @@ class TidemarkMain : public QMainWindow {
     MapView* map_;
     Status* status_;
     ToolBar* tool_bar_;
+    KeyDrawing* key_drawing_ = nullptr;
     ProjectWatch* watch_;
     StatusLine* status_line_;
     bool picture_is_gone_ = false;    // that the step last shown wants

@@ -216,6 +216,7 @@ void TidemarkMain::Import_coast(const QString& path) {
 
 void TidemarkMain::Show_place(VTPPlace place) {
     map_->Center_on(VTP_to_canvas(document_.Now(), place.X, place.Y));
+    key_drawing_->Go_to(place);
 }
 
 }  // namespace tidemark

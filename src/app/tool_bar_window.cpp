@@ -58,6 +58,9 @@ ToolBar::ToolBar(QWidget* parent)
     GoTo_ = Add_command(*this, "GoTo", "Go to", Drawn_icon(GoToIcon()), {Qt::CTRL | Qt::Key_G});
     ShowChosen_ = Add_command(*this, "ShowChosen", "Show chosen", Drawn_icon(ShowChosenIcon()),
                               {Qt::CTRL | Qt::Key_J});
+    DrawByKeys_ = Add_command(*this, "DrawByKeys", "Draw by keys", Drawn_icon(DrawByKeysIcon()),
+                              {Qt::Key_F7});
+    DrawByKeys_->setCheckable(true);
     addSeparator()->setObjectName("sep8");
     FillCoast_ = Add_command(*this, "FillCoast", "Fill along the coast",
                              Drawn_icon(FillCoastIcon()), {Qt::CTRL | Qt::Key_F});
@@ -65,7 +68,8 @@ ToolBar::ToolBar(QWidget* parent)
                               Drawn_icon(ClearCoastIcon()), {Qt::CTRL | Qt::Key_K});
     ImportCoast_ = Add_command(*this, "ImportCoast", "Import coast", Drawn_icon(ImportCoastIcon()),
                                {Qt::CTRL | Qt::Key_I});
-    for (QAction* const action : {Marks_, GoTo_, ShowChosen_}) action->setEnabled(false);
+    for (QAction* const action : {Marks_, GoTo_, ShowChosen_, DrawByKeys_})
+        action->setEnabled(false);
     // What stands to the right of the level keeps its place.
     QWidget& level = *widgetForAction(ZoomReset_);
     ZoomReset_->setIconText("1600 %");
@@ -123,7 +127,7 @@ void ToolBar::Show_zoom(const MapView& map) {
     ZoomReset_->setIconText(QString::fromStdString(map.Scale().Percent()));
     ZoomOut_->setEnabled(map.Has_map() && Previous_level(zoom) != zoom);
     ZoomIn_->setEnabled(map.Has_map() && Next_level(zoom) != zoom);
-    for (QAction* const action : {ZoomReset_, ZoomWhole_, Marks_, GoTo_, ShowChosen_})
+    for (QAction* const action : {ZoomReset_, ZoomWhole_, Marks_, GoTo_, ShowChosen_, DrawByKeys_})
         action->setEnabled(map.Has_map());
 }
 

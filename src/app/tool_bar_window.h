@@ -28,6 +28,7 @@ class ToolBar : public QToolBar {
     QAction& Marks() { return *Marks_; }
     QAction& GoTo() { return *GoTo_; }
     QAction& ShowChosen() { return *ShowChosen_; }
+    QAction& DrawByKeys() { return *DrawByKeys_; }
     QAction& FillCoast() { return *FillCoast_; }
     QAction& ClearCoast() { return *ClearCoast_; }
     QAction& ImportCoast() { return *ImportCoast_; }
@@ -43,7 +44,7 @@ class ToolBar : public QToolBar {
 
     QAction* EditUndo_;
     QAction* EditRedo_;
-    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr;
+    QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr, *DrawByKeys_ = nullptr;
     QAction *FillCoast_ = nullptr, *ClearCoast_ = nullptr;
     QAction* ImportCoast_ = nullptr;
     std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds

@@ -135,4 +135,18 @@ IconShapes ShowChosenIcon() {
     return shapes;
 }
 
+// A cross with the heads of four arrows.
+IconShapes DrawByKeysIcon() {
+    IconShapes shapes;
+    for (int quarter = 0; quarter < 4; ++quarter) {
+        QTransform turn;
+        turn.translate(DrawnIconSize / 2.0, DrawnIconSize / 2.0);
+        turn.rotate(90 * quarter);
+        shapes.Strokes.moveTo(turn.map(QPointF(0, -2.5)));
+        shapes.Strokes.lineTo(turn.map(QPointF(0, -6)));
+        shapes.Fills.addPolygon(turn.map(QPolygonF({{0, -11}, {-4, -6}, {4, -6}, {0, -11}})));
+    }
+    return shapes;
+}
+
 }  // namespace tidemark

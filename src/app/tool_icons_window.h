@@ -13,6 +13,7 @@ IconShapes ZoomWholeIcon();
 IconShapes MarksIcon();
 IconShapes GoToIcon();
 IconShapes ShowChosenIcon();
+IconShapes DrawByKeysIcon();
 IconShapes FillCoastIcon();
 IconShapes ClearCoastIcon();
 IconShapes ImportCoastIcon();

@@ -4,6 +4,7 @@
 
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QtMath>
 
 #include "canvas/qt_marks.h"
 #include "platform/qt_keys.h"
@@ -32,7 +33,7 @@ std::optional<QPoint> Way_between(const std::optional<PixelGrid>& from, const Pi
 
 MapCanvas::MapCanvas(QWidget* viewport)
     : QWidget(viewport), surface_([this] {
-          is_shown_outdated_ = true;
+          shown_grid_.reset();
           update();
       }) {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -44,21 +45,21 @@ MapCanvas::MapCanvas(QWidget* viewport)
 void MapCanvas::Take_image(QImage image) {
     picture_.Take(std::move(image));
     backdrop_grid_.reset();
+    shown_grid_.reset();
     Show_at(scale_);
 }
 
 void MapCanvas::Show_at(const MapScale& scale) {
     const bool is_zoomed = scale.Zoom() != scale_.Zoom();
     scale_ = scale;
-    is_shown_outdated_ = true;
     const ViewSize size = scale.Shown_size({Image_size().width(), Image_size().height()});
     // All of it is painted anew. Of an opaque widget Qt would first move what is on the screen.
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     setGeometry(-scale.Left(), -scale.Top(), size.Width, size.Height);
     setAttribute(Qt::WA_OpaquePaintEvent);
     update();
-    // The pointer is now over another place, without having moved.
-    if (is_zoomed) Tell_pointer();
+    // The pointer is now over another place, without having moved; the cross is where it was.
+    if (is_zoomed && !cross_) Tell_pointer();
 }
 
 QRect MapCanvas::Visible_part() const {
@@ -70,9 +71,9 @@ void MapCanvas::paintEvent(QPaintEvent* event) {
     if (visible.contains(event->rect())) {
         Bring_up_to_date(visible);
         QPainter painter(this);
-        painter.drawPixmap(visible.topLeft(), shown_);
-        Paint_marks(painter, marks_, visible, scale_.Zoom());
-        Paint_marks(painter, pointer_frame_, visible, scale_.Zoom());
+        painter.drawPixmap(visible.topLeft(), Marked(visible));
+        Paint_lines(painter, pointer_frame_, scale_.Zoom());
+        if (cross_) Paint_cross(painter, *cross_, scale_.Zoom());
         return;
     }
     // A picture may be taken of more than the viewport shows.
@@ -88,9 +89,7 @@ void MapCanvas::paintEvent(QPaintEvent* event) {
 }
 
 // Makes backdrop_ hold the visible part of the image, computing only what it does not hold yet.
-void MapCanvas::Bring_image_up_to_date(const QRect& visible) {
-    const QSize size = Screen_pixels(visible.size(), devicePixelRatioF());
-    const PixelGrid grid = Grid_of(visible.topLeft(), scale_.Zoom(), devicePixelRatioF());
+void MapCanvas::Bring_image_up_to_date(const PixelGrid& grid, QSize size) {
     QRegion missing(QRect({0, 0}, size));
     if (backdrop_.size() != size) {
         backdrop_ = QPixmap(size);
@@ -105,35 +104,113 @@ void MapCanvas::Bring_image_up_to_date(const QRect& visible) {
         painter.drawImage(part.topLeft(), picture_.Pixels(part, grid));
 }
 
+// Moves what shown_ holds to where it lies on the grid. Returns the part of it that is right: that
+// which no line touches that leads out of the picture. Where the map is not shrunk there are few
+// lines in it, and long ones, that cost less than to look for that part.
+QRect MapCanvas::Move_shown(const PixelGrid& grid, QSize size) {
+    const auto way = Way_between(shown_grid_, grid);
+    if (shown_.size() != size) {
+        shown_ = QPixmap(size);
+        return {};
+    }
+    if (!way || scale_.Zoom() >= 1) return {};
+    const QRect moved = shown_.rect() & shown_.rect().translated(*way);
+    if (moved.isEmpty()) return {};
+    const double ratio = devicePixelRatioF();
+    const QPointF corner(grid.Left, grid.Top);
+    const QRectF area((moved.topLeft() + corner) / ratio, QSizeF(moved.size()) / ratio);
+    const QRectF kept = surface_.Without_borders(area, scale_.Zoom());
+    const QPointF from = kept.topLeft() * ratio - corner, to = kept.bottomRight() * ratio - corner;
+    const QRect whole_pixels(QPoint(qCeil(from.x()), qCeil(from.y())),
+                             QPoint(qFloor(to.x()) - 1, qFloor(to.y()) - 1));
+    // Too little of it is not worth moving.
+    if (whole_pixels.width() < size.width() / 4 || whole_pixels.height() < size.height() / 4)
+        return {};
+    shown_.scroll(way->x(), way->y(), shown_.rect());
+    return whole_pixels;
+}
+
 void MapCanvas::Bring_up_to_date(const QRect& visible) {
     const double ratio = devicePixelRatioF();
-    if (!is_shown_outdated_ && shown_.size() == Screen_pixels(visible.size(), ratio)) return;
-    is_shown_outdated_ = false;
-    Bring_image_up_to_date(visible);
-    if (shown_.size() != backdrop_.size()) shown_ = QPixmap(backdrop_.size());
+    const QSize size = Screen_pixels(visible.size(), ratio);
+    const PixelGrid grid = Grid_of(visible.topLeft(), scale_.Zoom(), ratio);
+    if (shown_grid_ == grid && shown_.size() == size) return;
+    Bring_image_up_to_date(grid, size);
     shown_.setDevicePixelRatio(1);
-    QPainter(&shown_).drawPixmap(0, 0, backdrop_);
-    shown_.setDevicePixelRatio(ratio);
+    QRect kept = Move_shown(grid, size);
+    shown_grid_ = grid;
+    marked_grid_.reset();
+    // Painted is a frame along the whole border: lines are cut off at the bounds of what the
+    // painter is clipped to, which have to be the same for all pictures.
+    kept &= shown_.rect().adjusted(1, 1, -1, -1);
     QPainter painter(&shown_);
+    if (!kept.isEmpty()) painter.setClipRegion(QRegion(shown_.rect()) - kept);
+    painter.drawPixmap(0, 0, backdrop_);
+    painter.scale(ratio, ratio);
     painter.translate(-visible.topLeft());
-    surface_.Paint(painter, visible, scale_.Zoom());
+    const QPointF corner(grid.Left, grid.Top);
+    const QRectF spared((kept.topLeft() + corner) / ratio, QSizeF(kept.size()) / ratio);
+    surface_.Paint(painter, visible, scale_.Zoom(), spared);
+}
+
+// What is shown, with the marks over it.
+const QPixmap& MapCanvas::Marked(const QRect& visible) {
+    shown_.setDevicePixelRatio(devicePixelRatioF());
+    if (marks_.Is_empty()) return shown_;
+    if (marked_grid_ == shown_grid_) return marked_;
+    marked_grid_ = shown_grid_;
+    marked_ = shown_;
+    QPainter painter(&marked_);
+    painter.translate(-visible.topLeft());
+    Paint_marks(painter, marks_, visible, scale_.Zoom());
+    return marked_;
 }
 
 void MapCanvas::Show_marks(MapMarks marks) {
     marks_ = std::move(marks);
+    marked_grid_.reset();
+    if (marks_.Is_empty()) marked_ = QPixmap();
     update();
 }
 
 void MapCanvas::Show_pointer_frame(std::vector<MarkLine> frame) {
-    if (frame == pointer_frame_.Lines) return;
-    pointer_frame_.Lines = std::move(frame);
-    update();
+    if (frame == pointer_frame_) return;
+    Update_around(pointer_frame_);
+    pointer_frame_ = std::move(frame);
+    Update_around(pointer_frame_);
+}
+
+void MapCanvas::Update_around(const std::vector<MarkLine>& lines) {
+    for (const MarkLine& line : lines)
+        update(Reach_of(line, scale_.Zoom()).intersected(Visible_part()));
+}
+
+void MapCanvas::Update_around_cross() {
+    if (cross_) update(Reach_of_cross(*cross_, scale_.Zoom()).intersected(Visible_part()));
+}
+
+void MapCanvas::Show_cross(std::optional<CanvasPoint> place) {
+    Update_around_cross();
+    cross_ = place;
+    Update_around_cross();
+    if (cross_)
+        Tell(*cross_);
+    else
+        Tell_pointer();
+}
+
+void MapCanvas::Press_at_cross(Qt::MouseButton button) {
+    if (!cross_) return;
+    Tell(*cross_);
+    Q_EMIT Mouse_pressed(static_cast<int>(button));
+}
+
+void MapCanvas::Tell(CanvasPoint place) {
+    Q_EMIT Mouse_moved(static_cast<float>(place.X), static_cast<float>(place.Y));
 }
 
 void MapCanvas::Tell_pointer() {
-    if (!pointer_) return;
-    const CanvasPoint at = scale_.To_canvas({pointer_->x(), pointer_->y()});
-    Q_EMIT Mouse_moved(static_cast<float>(at.X), static_cast<float>(at.Y));
+    if (pointer_) Tell(scale_.To_canvas({pointer_->x(), pointer_->y()}));
 }
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
@@ -152,6 +229,8 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
         pan_from_ = event->position();
         return Show_hand();
     }
+    // The cross may have been moved since the mouse was.
+    if (cross_) mouseMoveEvent(event);
     Q_EMIT Mouse_pressed(static_cast<int>(event->button()));
 }
 

@@ -17,8 +17,8 @@ namespace tidemark {
 // of it.
 //
 // Lines that lead out of a picture are not cut off at the same fraction of a pixel in every
-// picture. So of what is scrolled only the image is moved; the drawings are painted anew over it,
-// and always look as they would after a redraw.
+// picture. So of what is scrolled only that is moved which no such line touches; the rest is
+// painted anew, and all of it always looks as it would after a redraw.
 class MapCanvas : public QWidget {
     Q_OBJECT
 
@@ -36,6 +36,13 @@ class MapCanvas : public QWidget {
     // The layer above image and drawings; it does not touch what they look like.
     void Show_marks(MapMarks marks);
     void Show_pointer_frame(std::vector<MarkLine> frame);
+
+    // The cross that stands for the pointer while the keys draw, at a canvas pixel. Showing it
+    // moves the mouse there, as far as anybody is told; it is pressed there, too. Without it the
+    // pointer counts again.
+    void Show_cross(std::optional<CanvasPoint> place);
+    std::optional<CanvasPoint> Cross() const { return cross_; }
+    void Press_at_cross(Qt::MouseButton button);
 
   Q_SIGNALS:
     void Mouse_moved(float x, float y);  // canvas pixels
@@ -55,8 +62,13 @@ class MapCanvas : public QWidget {
 
   private:
     QRect Visible_part() const;
-    void Bring_image_up_to_date(const QRect& visible);
+    void Bring_image_up_to_date(const PixelGrid& grid, QSize size);
+    QRect Move_shown(const PixelGrid& grid, QSize size);
     void Bring_up_to_date(const QRect& visible);
+    const QPixmap& Marked(const QRect& visible);
+    void Update_around(const std::vector<MarkLine>& lines);
+    void Update_around_cross();
+    void Tell(CanvasPoint place);
     void Tell_pointer();
     void Show_hand();
 
@@ -64,15 +76,15 @@ class MapCanvas : public QWidget {
     MapPicture picture_;
     QtSurface surface_;
     MapMarks marks_;
-    MapMarks pointer_frame_;
+    std::vector<MarkLine> pointer_frame_;
+    std::optional<CanvasPoint> cross_;
 
     // What the viewport shows, as the screen's own pixels: the image alone, so that scrolling
-    // computes only what comes into view, and with the drawings, so that uncovering paints no line
-    // again.
-    QPixmap backdrop_;
-    std::optional<PixelGrid> backdrop_grid_;  // none when it is out of date
-    QPixmap shown_;
-    bool is_shown_outdated_ = true;
+    // computes only what comes into view, with the drawings, so that uncovering paints no line
+    // again, and with the marks, so that the pointer moves over them without painting them. The
+    // grids are none when a picture is out of date.
+    QPixmap backdrop_, shown_, marked_;
+    std::optional<PixelGrid> backdrop_grid_, shown_grid_, marked_grid_;
 
     std::optional<QPointF> pointer_;   // where it was last seen in the viewport
     std::optional<QPointF> pan_from_;  // the place on the zoomed map that a pan holds

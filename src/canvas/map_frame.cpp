@@ -41,6 +41,21 @@ CanvasPoint Cell_to_canvas(const Project& project, Int16 column, Int16 row, Int1
             Pixels((row - project.BGLOD13tlY) * CellSizeVTP + y, project.ScaleY)};
 }
 
+CanvasPoint VTP_point_to_canvas(const Project& project, int point) {
+    return VTP_to_canvas(project, project.VTPPoint(point, 0), project.VTPPoint(point, 1));
+}
+
+CanvasPoint LWM_point_to_canvas(const Project& p, int polygon, int point) {
+    return Cell_to_canvas(p, p.LWMCell(polygon, 0), p.LWMCell(polygon, 1),
+                          p.LWMPoint(polygon, point, 0), p.LWMPoint(polygon, point, 1));
+}
+
+CursorTexts Cursor_texts(const Session& session) {
+    return {Blank_text(session.CursorVTPX) + "," + Blank_text(session.CursorVTPY),
+            "[ " + Int_text(session.CursorCellX) + ", " + Int_text(session.CursorCellY) + " ] " +
+                Blank_text(session.CursorInCellX) + "," + Blank_text(session.CursorInCellY)};
+}
+
 std::optional<CursorTexts> Move_cursor(const Project& p, Session& session, float x, float y) {
     if (!Has_scale(p)) return std::nullopt;
     AxisCursor across, down;
@@ -58,10 +73,7 @@ std::optional<CursorTexts> Move_cursor(const Project& p, Session& session, float
     session.CursorInCellY = down.InCell;
     session.CursorCellX = across.Cell;
     session.CursorCellY = down.Cell;
-    return CursorTexts{Blank_text(session.CursorVTPX) + "," + Blank_text(session.CursorVTPY),
-                       "[ " + Int_text(session.CursorCellX) + ", " + Int_text(session.CursorCellY) +
-                           " ] " + Blank_text(session.CursorInCellX) + "," +
-                           Blank_text(session.CursorInCellY)};
+    return Cursor_texts(session);
 }
 
 std::optional<int> Nearest_point(const Project& project, const Session& session) {

@@ -19,10 +19,6 @@ constexpr Colour Light{255, 255, 255};
 constexpr int EdgeWidth = 1;
 constexpr int ChosenWidth = 5;
 
-CanvasPoint VTP_point(const Project& p, int i) {
-    return VTP_to_canvas(p, p.VTPPoint(i, 0), p.VTPPoint(i, 1));
-}
-
 // The north-west corner of a cell; column or row 32 is the south-east end of the map.
 CanvasPoint Corner(const Project& p, Int16 column, Int16 row) {
     return Cell_to_canvas(p, column, row, 0, 0);
@@ -31,8 +27,7 @@ CanvasPoint Corner(const Project& p, Int16 column, Int16 row) {
 std::vector<CanvasPoint> Polygon_outline(const Project& p, int polygon) {
     std::vector<CanvasPoint> outline;
     for (int k = 1; k <= p.LWMPointCount(polygon); ++k)
-        outline.push_back(Cell_to_canvas(p, p.LWMCell(polygon, 0), p.LWMCell(polygon, 1),
-                                         p.LWMPoint(polygon, k, 0), p.LWMPoint(polygon, k, 1)));
+        outline.push_back(LWM_point_to_canvas(p, polygon, k));
     return outline;
 }
 
@@ -45,17 +40,6 @@ void Add_ring(std::vector<MarkLine>& lines, const std::vector<CanvasPoint>& outl
               int width) {
     for (std::size_t i = 0; i < outline.size(); ++i)
         lines.push_back({outline[i], outline[(i + 1) % outline.size()], ink, width});
-}
-
-// Runs an addition that may meet a position which does not fit 16 bits; what is that far away is
-// left out.
-template <class Add>
-void Add_what_fits(const Add& add) {
-    try {
-        add();
-    } catch (const Overflow&) {
-        // As the drawing leaves it out.
-    }
 }
 
 void Add_cells(const Project& p, MapMarks& marks) {
@@ -75,7 +59,7 @@ void Add_cells(const Project& p, MapMarks& marks) {
 
 void Add_tints(const Project& p, MapMarks& marks) {
     for (int polygon = 1; polygon <= p.LWMCount; ++polygon)
-        Add_what_fits([&] {
+        Do_what_fits([&] {
             marks.Areas.push_back({Polygon_outline(p, polygon),
                                    p.LWMType(polygon) == WaterPolygon ? WaterTint : LandTint});
         });
@@ -84,8 +68,9 @@ void Add_tints(const Project& p, MapMarks& marks) {
 void Add_chosen_segment(const Project& p, int point, MapMarks& marks) {
     const int last = Segment_last(p, point);
     for (int i = Segment_first(p, point); i < last; ++i)
-        Add_what_fits([&] {
-            marks.Lines.push_back({VTP_point(p, i), VTP_point(p, i + 1), ChosenInk, ChosenWidth});
+        Do_what_fits([&] {
+            marks.Lines.push_back(
+                {VTP_point_to_canvas(p, i), VTP_point_to_canvas(p, i + 1), ChosenInk, ChosenWidth});
         });
 }
 
@@ -94,11 +79,11 @@ void Add_chosen(const Project& p, const PanelState& panel, MapMarks& marks) {
     const int polygon = panel.SelectedPolygon + 1;
     const int cell = panel.SelectedCell + 1;
     if (point >= 1 && point <= p.VTPCount) Add_chosen_segment(p, point, marks);
-    Add_what_fits([&] {
+    Do_what_fits([&] {
         if (polygon >= 1 && polygon <= p.LWMCount)
             Add_ring(marks.Lines, Polygon_outline(p, polygon), ChosenInk, ChosenWidth);
     });
-    Add_what_fits([&] {
+    Do_what_fits([&] {
         if (cell >= 1 && cell <= p.KillCount)
             Add_ring(marks.Lines, Cell_outline(p, p.KillCell(cell, 0), p.KillCell(cell, 1)),
                      ChosenInk, ChosenWidth);
@@ -111,7 +96,7 @@ MapMarks Marks_of(const Project& project, const Session& session, const MarkKind
     MapMarks marks;
     if (!Has_scale(project)) return marks;
     if (kinds.Tint) Add_tints(project, marks);
-    if (kinds.Cells) Add_what_fits([&] { Add_cells(project, marks); });
+    if (kinds.Cells) Do_what_fits([&] { Add_cells(project, marks); });
     if (kinds.Chosen) Add_chosen(project, session.Panel, marks);
     return marks;
 }
@@ -122,7 +107,7 @@ std::vector<MarkLine> Pointer_frame(const Project& p, const Session& session) {
     const bool is_on_map = column >= p.BGLOD13tlX && column <= p.BGLOD13brX &&
                            row >= p.BGLOD13tlY && row <= p.BGLOD13brY;
     if (!is_on_map || !Has_scale(p)) return frame;
-    Add_what_fits([&] {
+    Do_what_fits([&] {
         Add_ring(frame, Cell_outline(p, column, row), Dark, 3);
         Add_ring(frame, Cell_outline(p, column, row), Light, 1);
     });

@@ -43,6 +43,8 @@ struct MapMarks {
     std::vector<MarkArea> Areas;
     std::vector<MarkLine> Lines;  // in the order in which they are drawn
     std::vector<MarkNumber> Numbers;
+
+    bool Is_empty() const { return Areas.empty() && Lines.empty() && Numbers.empty(); }
 };
 
 // The marks of these kinds but for the frame of the pointer's cell. None on a map without scale;

@@ -22,6 +22,13 @@ int Shown_length(int length, double zoom) {
     return static_cast<int>(std::ceil(length * zoom - last_bits));
 }
 
+// How far to scroll, along one axis, for a place of the screen to come inside.
+int Way_to_reveal(double at, int length, int margin) {
+    const double least = std::min<double>(margin, length / 2.0);
+    if (at < least) return static_cast<int>(std::floor(at - least));
+    return static_cast<int>(std::ceil(std::max(at - (length - least), 0.0)));
+}
+
 }  // namespace
 
 std::string MapScale::Percent() const {
@@ -49,6 +56,12 @@ ViewSize MapScale::Shown_size(ViewSize image) const {
 
 void MapScale::Put(CanvasPoint pixel, ScreenPoint at) {
     Scroll_to(Round_to_pixel(pixel.X * zoom_ - at.X), Round_to_pixel(pixel.Y * zoom_ - at.Y));
+}
+
+void MapScale::Reveal(CanvasPoint pixel, ViewSize viewport, int margin) {
+    const ScreenPoint at = To_screen(pixel);
+    Scroll_to(left_ + Way_to_reveal(at.X, viewport.Width, margin),
+              top_ + Way_to_reveal(at.Y, viewport.Height, margin));
 }
 
 void MapScale::Zoom_to(double zoom, ScreenPoint fixed) {

@@ -36,6 +36,9 @@ class MapScale {
 
     // Scrolls so that a canvas pixel lies at a place of the screen, to within half a pixel.
     void Put(CanvasPoint pixel, ScreenPoint at);
+    // Scrolls no further than it takes to have a canvas pixel at least `margin` pixels inside a
+    // viewport, or in its middle when that is too small.
+    void Reveal(CanvasPoint pixel, ViewSize viewport, int margin);
     // Another zoom, above 0; what lies at `fixed` stays there as far as Put can.
     void Zoom_to(double zoom, ScreenPoint fixed);
 

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
 
@@ -27,9 +28,25 @@ QRect Qt_rect(const ViewRect& rect) {
     return {rect.Left, rect.Top, rect.Width, rect.Height};
 }
 
+// Of a scroll bar with the keyboard, Qt turns the arrows across the wrong way.
+class MapScrollBar : public QScrollBar {
+  public:
+    using QScrollBar::QScrollBar;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Left)
+            triggerAction(SliderSingleStepSub);
+        else if (event->key() == Qt::Key_Right)
+            triggerAction(SliderSingleStepAdd);
+        else
+            QScrollBar::keyPressEvent(event);
+    }
+};
+
 QScrollBar* Scroll_bar(const char* name, const char* spoken, Qt::Orientation orientation,
                        QWidget* parent) {
-    auto* const bar = new QScrollBar(orientation, parent);
+    auto* const bar = new MapScrollBar(orientation, parent);
     bar->setObjectName(name);
     bar->setAccessibleName(spoken);
     bar->setSingleStep(ScrollStep);

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QWidget>
 
+#include "canvas/key_cross.h"
 #include "canvas/map_canvas_window.h"
 #include "canvas/map_scale.h"
 #include "canvas/view_layout.h"
@@ -46,6 +47,10 @@ class MapView : public QWidget {
     std::pair<CanvasPoint, CanvasPoint> Canvas_in_view() const;
     // Scrolls so that a canvas pixel lies in the middle, as far as the map goes.
     void Center_on(CanvasPoint pixel);
+    // Scrolls no further than it takes for a canvas pixel to be seen with what is around it.
+    void Reveal(CanvasPoint pixel);
+
+    ShownMap Shown() const;
 
     // Where the mouse and the keys arrive, and what is drawn on.
     MapCanvas& Canvas() { return *Picture2_; }

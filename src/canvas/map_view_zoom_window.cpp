@@ -55,6 +55,20 @@ void MapView::Center_on(CanvasPoint pixel) {
     Pan_to(scale.Left(), scale.Top());
 }
 
+void MapView::Reveal(CanvasPoint pixel) {
+    constexpr int around = 24;  // pixels
+    MapScale scale = scale_;
+    scale.Reveal(pixel, Viewport_size(), around);
+    if (scale != scale_) Pan_to(scale.Left(), scale.Top());
+}
+
+ShownMap MapView::Shown() const {
+    return {scale_,
+            {Canvas_size().width(), Canvas_size().height()},
+            Viewport_size(),
+            devicePixelRatioF()};
+}
+
 void MapView::Pan_to(int left, int top) {
     Move_to(qBound(0, left, HScroll1_->maximum()), qBound(0, top, VScroll1_->maximum()));
     Turn_bars();

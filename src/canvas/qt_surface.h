@@ -25,10 +25,13 @@ class QtSurface : public DrawingSurface {
     void Line(CanvasPoint from, CanvasPoint to) override;
     void Circle(CanvasPoint centre, double radius, Colour colour) override;
 
-    // Paints the drawings that may touch `exposed`, in the order in which they were drawn. A canvas
-    // pixel is `zoom` of the painter's units; pens and rings are as wide at every zoom. The caller
-    // clips.
-    void Paint(QPainter& painter, const QRect& exposed, double zoom);
+    // Paints the drawings that may touch `exposed`, in the order in which they were drawn, but for
+    // those that lie in `spared`. A canvas pixel is `zoom` of the painter's units; pens and rings
+    // are as wide at every zoom. The caller clips.
+    void Paint(QPainter& painter, const QRect& exposed, double zoom, const QRectF& spared = {});
+
+    // The part of `area` that no drawing touches which leads out of it; in the painter's units.
+    QRectF Without_borders(const QRectF& area, double zoom) const;
 
   private:
     // Neighbours in the list that are painted together: lines of one pen, or one circle (its only
@@ -41,9 +44,10 @@ class QtSurface : public DrawingSurface {
         double Reach;                     // how far the strokes come from them, at most
     };
 
+    static QRectF Place_of(const Batch& batch, double zoom);
     void Add(const QLineF& line, Batch& batch);
     void Start_batch(const QPen& pen, bool is_circle, double reach);
-    void Paint(QPainter& painter, const Batch& batch, double zoom) const;
+    void Paint(QPainter& painter, const Batch& batch, double zoom, const QRectF& spared) const;
     void Announce_change();
 
     std::vector<QLineF> lines_;

@@ -84,34 +84,14 @@ constexpr auto Find_code(const Entries& entries, int code) {
     return entry == entries.end() ? nullptr : &*entry;
 }
 
-CanvasPoint VTP_point(const Project& p, int i) {
-    return VTP_to_canvas(p, p.VTPPoint(i, 0), p.VTPPoint(i, 1));
-}
-
-CanvasPoint LWM_point(const Project& p, int polygon, int point) {
-    return Cell_to_canvas(p, p.LWMCell(polygon, 0), p.LWMCell(polygon, 1),
-                          p.LWMPoint(polygon, point, 0), p.LWMPoint(polygon, point, 1));
-}
-
-// Draws something as far as its positions fit 16 bits; what lies beyond is far from any map.
-template <class Draw>
-void Draw_what_fits(const Draw& draw) {
-    try {
-        draw();
-    } catch (const Overflow&) {
-        // Left out: one such entry must not keep the rest of the project from being seen and
-        // mended.
-    }
-}
-
 void Draw_polygon(const Project& p, int polygon, DrawingSurface& surface) {
     const int count = p.LWMPointCount(polygon);
     if (count < 1) return;
     surface.Pen_colour(p.LWMType(polygon) == LandPolygon ? LightGreen : LightBlue);
-    const CanvasPoint first = LWM_point(p, polygon, 1);
+    const CanvasPoint first = LWM_point_to_canvas(p, polygon, 1);
     CanvasPoint last = first;
     for (int point = 2; point <= count; ++point) {
-        const CanvasPoint next = LWM_point(p, polygon, point);
+        const CanvasPoint next = LWM_point_to_canvas(p, polygon, point);
         surface.Line(last, next);
         last = next;
     }
@@ -120,14 +100,17 @@ void Draw_polygon(const Project& p, int polygon, DrawingSurface& surface) {
 
 void Draw_polygons(const Project& p, DrawingSurface& surface) {
     for (int polygon = 1; polygon <= p.LWMCount; ++polygon)
-        Draw_what_fits([&] { Draw_polygon(p, polygon, surface); });
+        Do_what_fits([&] { Draw_polygon(p, polygon, surface); });
 }
 
 void Draw_segments(const Project& p, DrawingSurface& surface, Messages& messages) {
     bool reported = false;
     for (int i = 1; i <= p.VTPCount; ++i) {
         if (!p.VTPSegStart(i)) {
-            if (i >= 2) Draw_what_fits([&] { surface.Line(VTP_point(p, i - 1), VTP_point(p, i)); });
+            if (i >= 2)
+                Do_what_fits([&] {
+                    surface.Line(VTP_point_to_canvas(p, i - 1), VTP_point_to_canvas(p, i));
+                });
             continue;
         }
         if (const SegmentPen* pen = Find_code(SegmentPens, p.VTPMode(i))) {
@@ -159,14 +142,15 @@ void Draw_cleared_cells(const Project& p, DrawingSurface& surface) {
             surface.Pen_colour(mark->Ink);
             half_size = mark->HalfSize;
         }
-        Draw_what_fits([&] { Draw_mark(p, k, half_size, surface); });
+        Do_what_fits([&] { Draw_mark(p, k, half_size, surface); });
     }
 }
 
 void Mark_selected_point(const Project& p, int selected, DrawingSurface& surface) {
     if (selected < 0 || selected >= p.VTPCount) return;
     surface.Pen_width(SelectionWidth);
-    Draw_what_fits([&] { surface.Circle(VTP_point(p, selected + 1), SelectionRadius, LightRed); });
+    Do_what_fits(
+        [&] { surface.Circle(VTP_point_to_canvas(p, selected + 1), SelectionRadius, LightRed); });
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ inline const std::vector<Answers> AllAnswers{
      "CalcLatText,CalcLonText",
      "",
      {"37:49:12.5,122:28:42", "8:60:60,0:7:0", "91:00:00,0:0:0", "5:7,::"}},
+    {"GoTo", "GoToColumn,GoToRow", "", {"3,5", "4,6", "5,7", "x,", "31,0"}},
     {"LoadBMPdialog", "fileNameEdit", "", {"map.bmp", "map2.bmp", "broken.bmp"}},
     {"OpenProject", "fileNameEdit", "", {"a.TDM", "b.TDM", "none"}},
     {"SaveProject", "fileNameEdit", "", {"a.TDM", "b.TDM", "c"}},
@@ -75,8 +76,11 @@ class RandomAnswers : public QObject {
         for (const QString& button : buttons.split(',', Qt::SkipEmptyParts))
             if (random_.One_in(3)) Click(Control<QAbstractButton>(dialog, button));
         const QStringList texts = random_.One_of(rows).split(',');
-        for (qsizetype i = 0; i < texts.size(); ++i)
-            Control<QLineEdit>(dialog, fields.split(',')[i]).setText(texts[i]);
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            auto& field = Control<QLineEdit>(dialog, fields.split(',')[i]);
+            field.setText(texts[i]);
+            Q_EMIT field.textEdited(texts[i]);
+        }
         Press(dialog, random_.One_in(5) ? Qt::Key_Escape : Qt::Key_Enter);
         if (dialog.isVisible()) Press(dialog, Qt::Key_Escape);
     }

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <QRegularExpression>
+#include <QtMath>
 
 #include "app/random_answers.h"
 #include "app/tidemark_main_window.h"
@@ -180,6 +181,39 @@ class RandomUser {
         EXPECT_EQ(Now().VTPCount, before - gone);
     }
 
+    // As everything that only changes what is seen, these leave the project as it is.
+    void Look_elsewhere() {
+        const auto state = window_.Current_document().State();
+        for (const char* const bar : {"HScroll1", "VScroll1"})
+            Control<QScrollBar>(window_, bar).setValue(random_.Number(0, 2000));
+        Choose(Some({"ZoomIn", "ZoomOut", "ZoomIn", "ZoomOut", "ZoomReset", "ZoomWhole",
+                     "ShowChosen", "Marks", "MarkPointer", "MarkTint"}));
+        EXPECT_EQ(window_.Current_document().State(), state);
+    }
+
+    void Pan() {
+        const QPoint from = -canvas_.pos() + QPoint(50, 50);
+        const QPoint to = from + QPoint(random_.Number(-90, 90), random_.Number(-90, 90));
+        QTest::mousePress(&canvas_, Qt::MiddleButton, {}, from);
+        QTest::mouseMove(&canvas_, to);
+        QTest::mouseRelease(&canvas_, Qt::MiddleButton, {}, to);
+    }
+
+    // The cross moves about, and acts now and then.
+    void Draw_by_keys() {
+        if (!Entry("DrawByKeys").isChecked()) Choose("DrawByKeys");
+        for (int keys = random_.Number(1, 12); keys > 0 && canvas_.Cross(); --keys) {
+            QTest::keyClick(&canvas_, random_.One_of(arrows_), random_.One_of(held_));
+            const MapScale& scale = Control<MapView>(window_, "MapView").Scale();
+            const ScreenPoint at = scale.To_screen(*canvas_.Cross());
+            EXPECT_TRUE(canvas_.parentWidget()->rect().contains(qFloor(at.X), qFloor(at.Y)));
+        }
+        const int before = Now().VTPCount + Now().LWMCount + Now().KillCount;
+        QTest::keyClick(&canvas_, Qt::Key_Return, random_.One_of(held_));
+        EXPECT_LE(Now().VTPCount + Now().LWMCount + Now().KillCount, before + 1);
+        if (random_.One_in(5)) QTest::keyClick(&canvas_, Qt::Key_Escape);
+    }
+
     void Resize(QWidget& widget) {
         const QSize before = widget.size();
         widget.resize(widget.width() + random_.Number(-60, 60),
@@ -223,7 +257,9 @@ class RandomUser {
         // Without data they are enabled from the preferences' confirmation to the next refresh.
         EXPECT_TRUE((p.PrefsSet && p.LWMCount == 0) || Entry("LWMsave").isEnabled() == p.PrefsSet);
         EXPECT_TRUE((p.PrefsSet && !Has_VTP_data(p)) || Entry("VTPsave").isEnabled() == p.PrefsSet);
-        EXPECT_TRUE(Entry("FileSave").isEnabled() || !Entry("EditUndo").isEnabled());
+        // All taken back, the window is empty, and what is done then has no name yet.
+        const bool has_name = !window_.Current_session().Opened.Path.empty();
+        EXPECT_EQ(Entry("FileSave").isEnabled(), has_name);
     }
 
     RandomNumbers random_;
@@ -239,6 +275,8 @@ class RandomUser {
     QPoint place_;
     std::map<std::string, std::unique_ptr<Project>> saved_;  // by path
 
+    const std::vector<Qt::Key> arrows_{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
+    const std::vector<Qt::KeyboardModifiers> held_{{}, Qt::ShiftModifier, Qt::ControlModifier};
     const std::vector<Qt::Key> keys_{Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Home, Qt::Key_End,
                                      Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Space};
     const QStringList buttons_{"NewSegment",   "ReverseButton", "ChangeButton", "EditButton",
@@ -254,6 +292,10 @@ class RandomUser {
         {"right click on the map", 40, [this] { Click_map(Qt::RightButton); }, false},
         {"Delete on the map", 30, [this] { Delete_on_map(); }, false},
         {"E on the map", 5, [this] { Press(canvas_, Qt::Key_E); }, false},
+        {"look elsewhere", 40, [this] { Look_elsewhere(); }, false},
+        {"pan", 10, [this] { Pan(); }, false},
+        {"draw by keys", 60, [this] { Draw_by_keys(); }, false},
+        {"Go to", 4, [this] { Choose("GoTo"); }, false},
         {"menu entry", 12, [this] { Choose(Some(entries_)); }, false},
         {"Save", 5, [this] { Save(); }, false},
         {"Undo", 60, [this] { Travel("EditUndo"); }, false},

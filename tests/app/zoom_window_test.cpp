@@ -105,6 +105,34 @@ TEST_F(ZoomTest, ClicksMakeTheSamePointsAtEveryZoom) {
     EXPECT_NEAR(window_.Current_session().CursorOffsetX, pointer.x() + Scrolled().x(), 1);
 }
 
+TEST_F(ZoomTest, ClicksMakeTheSamePolygonsAtEveryZoom) {
+    Open("a.bmp");
+    const auto draw = [&](int scale) {
+        const auto click = [&](QPoint pixel) {
+            const QPoint at = pixel * scale - Scrolled();
+            Drag(Qt::LeftButton, at, at);
+        };
+        auto& modes = Control<QComboBox>(window_, "DrawModeCombo");
+        Choose_line(modes, "Coastline (sand), no waves");
+        for (const QPoint pixel : {QPoint(240, 300), {320, 330}, {450, 310}, {522, 340}})
+            click(pixel);
+        Choose_line(modes, "Water polygon");
+        click({380, 280});
+        Choose_line(modes, "Land polygon");
+        click({380, 380});
+        auto drawn = std::make_unique<Project>(now_);
+        for (int i = 0; i < 6; ++i) Click(Control<QToolButton>(window_, "EditUndoButton"));
+        return drawn;
+    };
+    Plan no_boxes;
+    const auto natural = draw(1);
+    while (Level() != "400 %") Key(Qt::Key_Plus);
+    const auto large = draw(4);
+    EXPECT_NO_THROW(no_boxes.Finish());
+    EXPECT_TRUE(natural->VTPCount == 4 && natural->LWMCount == 2);
+    EXPECT_TRUE(*large == *natural);
+}
+
 TEST_F(ZoomTest, WheelFingersAndMouseMoveTheMapUnderThePointer) {
     Open("a.bmp");
     const ScreenPoint at{120, 90};

@@ -18,6 +18,7 @@ TEST(MapScaleTest, EveryPositionIsFoundUnderThePixelThatShowsIt) {
     Project project;
     Place_area(project, 3, 4, 30, 30);
     project.ScaleX = 1.3F;
+    project.ScaleY = 0.7F;
     Session session;
     for (const double zoom : Levels())
         for (const double ratio : {1.0, 1.5, 2.0})  // the screen's own pixels to a pixel
@@ -25,16 +26,24 @@ TEST(MapScaleTest, EveryPositionIsFoundUnderThePixelThatShowsIt) {
                 for (int offset = 1; offset < 7000; offset += 311) {
                     MapScale scale;
                     scale.Zoom_to(zoom, {});
-                    scale.Scroll_to(left, 0);
-                    const double pixel = (offset - 0.5) * double{project.ScaleX};
-                    const double exact = scale.To_screen({pixel, 0}).X;
-                    const double reported = std::floor(exact * ratio + 0.5) / ratio;
-                    const CanvasPoint found = scale.To_canvas({reported, 0});
-                    ASSERT_TRUE(Move_cursor(project, session, static_cast<float>(found.X), 0));
-                    const double unit = double{project.ScaleX} * zoom * ratio;
-                    const int missed = static_cast<int>(std::floor(0.5 / unit + 0.51));
-                    ASSERT_LE(std::abs(session.CursorOffsetX - offset), missed)
-                        << zoom << " " << ratio << " " << left << " " << offset;
+                    scale.Scroll_to(left, 3 * left);
+                    const double middle = offset - 0.5;
+                    const ScreenPoint exact = scale.To_screen(
+                        {middle * double{project.ScaleX}, middle * double{project.ScaleY}});
+                    const auto reported = [ratio](double at) {
+                        return std::floor(at * ratio + 0.5) / ratio;
+                    };
+                    const CanvasPoint found =
+                        scale.To_canvas({reported(exact.X), reported(exact.Y)});
+                    ASSERT_TRUE(Move_cursor(project, session, static_cast<float>(found.X),
+                                            static_cast<float>(found.Y)));
+                    for (const auto& [at, pixels] :
+                         {std::pair{session.CursorOffsetX, project.ScaleX},
+                          {session.CursorOffsetY, project.ScaleY}}) {
+                        const double unit = double{pixels} * zoom * ratio;
+                        ASSERT_LE(std::abs(at - offset), std::floor(0.5 / unit + 0.51))
+                            << zoom << " " << ratio << " " << left << " " << offset;
+                    }
                 }
 }
 

@@ -138,13 +138,19 @@ TEST_F(MapViewTest, ZoomedMapsKeepTheirColoursAndPensTheirWidths) {
 TEST_F(MapViewTest, ScrolledPicturesEqualThosePaintedAnew) {
     Load(Encoded(Red_and_blue(1000, 900, QImage::Format_Grayscale8), "jpeg"));
     project_ = Largest_project();
+    RandomNumbers random(1);
+    for (int polygon = 1; polygon <= MaxLWMCount; ++polygon)
+        for (int point = 1; point <= MaxLWMPointCount; ++point)
+            for (const int axis : {0, 1})
+                project_.LWMPoint(polygon, point, axis) = random.Number(0, 255);
     const auto redraw = [this] { Refresh_Graphics(project_, 5, canvas_.Surface(), messages_); };
     redraw();
     using V = MapView;
-    for (const auto zoom : {&V::Zoom_reset, &V::Zoom_out, &V::Zoom_out, &V::Zoom_reset, &V::Zoom_in,
-                            &V::Zoom_in, &V::Zoom_in}) {
+    for (const auto zoom : {&V::Zoom_reset, &V::Zoom_out, &V::Zoom_out, &V::Zoom_out,
+                            &V::Zoom_reset, &V::Zoom_in, &V::Zoom_in, &V::Zoom_in}) {
         (view_.*zoom)();
-        for (const QPoint at : {QPoint(0, 0), {7, 0}, {7, 300}, {130, 290}, {600, 600}, {599, 0}}) {
+        for (const QPoint at :
+             {QPoint(0, 0), {7, 0}, {7, 300}, {60, 290}, {130, 290}, {600, 600}, {599, 0}}) {
             across_.setValue(at.x());
             down_.setValue(at.y());
             const QImage scrolled = Shown();
