@@ -227,7 +227,6 @@ void ImportCoast::Lay() {
         import_.Coast =
             Lay_coast(*project_, lines_,
                       {*tolerance, ReverseCheck_->isChecked(), MaxVTPCount - project_->VTPCount});
-    Q_EMIT Preview_changed(Coast_marks(*project_, import_.Coast));
     Count();
 }
 
@@ -236,7 +235,7 @@ void ImportCoast::Count() {
     import_.Options.ClearCells = ClearCellsCheck_->isChecked();
     import_.Options.FillWater = FillWaterCheck_->isChecked();
     import_.Options.FillLand = FillLandCheck_->isChecked();
-    ImportPreview preview{problem_, {}, false};
+    ImportPreview preview{problem_, {}, {}, false};
     if (!Take_tolerance(From_qt(ToleranceText_->text())))
         preview.CountText = WrongToleranceText;
     else if (problem_.empty())
@@ -245,6 +244,7 @@ void ImportCoast::Count() {
     ImportRemarkList_->clear();
     for (const std::string& remark : preview.Remarks) ImportRemarkList_->addItem(To_qt(remark));
     OkButton_->setEnabled(preview.IsPossible);
+    Q_EMIT Preview_changed(preview.Marks);
 }
 
 }  // namespace tidemark

@@ -40,8 +40,8 @@ class ImportCoast : public QDialog {
     void done(int result) override;
 
   Q_SIGNALS:
-    // The laid lines, on the map; none when the dialog is closed.
-    void Preview_changed(const std::vector<MarkLine>& lines);
+    // What the import would add to the map; nothing when the dialog is closed.
+    void Preview_changed(const MapMarks& preview);
 
   private:
     void Lay_out();

@@ -45,6 +45,25 @@ std::vector<std::string> Remarks_on(const LaidCoast& coast, const ImportResult& 
     return remarks;
 }
 
+std::vector<MarkLine> Coast_lines(const Project& project, const LaidCoast& coast) {
+    std::vector<MarkLine> marks;
+    if (!Has_scale(project)) return marks;
+    const auto pixel = [&](Position at) { return VTP_to_canvas(project, at[0], at[1]); };
+    for (const auto& [ink, width] : {std::pair{PreviewRim, RimWidth}, {PreviewInk, PreviewWidth}})
+        for (const LaidLine& line : coast.Lines)
+            for (std::size_t i = 1; i < line.Points.size(); ++i)
+                marks.push_back({pixel(line.Points[i - 1]), pixel(line.Points[i]), ink, width});
+    return marks;
+}
+
+// As the marks tint them.
+std::vector<MarkArea> New_polygons(const Project& before, const Project& after) {
+    constexpr MarkKinds tint{.Cells = false, .Pointer = false, .Tint = true, .Chosen = false};
+    std::vector<MarkArea> areas = Marks_of(after, {}, tint).Areas;
+    const std::size_t old = Marks_of(before, {}, tint).Areas.size();
+    return {areas.begin() + static_cast<std::ptrdiff_t>(old), areas.end()};
+}
+
 }  // namespace
 
 std::optional<std::string> Choose_coast_file(Platform& platform, const std::string& last) {
@@ -73,26 +92,16 @@ std::optional<double> Take_tolerance(std::string_view text) {
 ImportPreview Preview_import(const Project& project, const CoastImport& import) {
     const LaidCoast& coast = import.Coast;
     if (coast.Lines.empty())
-        return {"Nothing of this file can be laid into the map.", coast.Dropped, false};
+        return {"Nothing of this file can be laid into the map.", coast.Dropped, {}, false};
     const auto copy = std::make_unique<Project>(project);
     const ImportResult result = Import_coast(*copy, coast, import.Options);
-    if (!result.Refusal.empty()) return {result.Refusal, coast.Dropped, false};
+    MapMarks marks{New_polygons(project, *copy), Coast_lines(project, coast), {}};
+    if (!result.Refusal.empty()) return {result.Refusal, coast.Dropped, std::move(marks), false};
     std::string counts = Laid_text(coast, MaxVTPCount - project.VTPCount);
     if (import.Options.ClearCells) counts += "\n" + Cleared_text(result.Cleared);
     if (import.Options.FillWater || import.Options.FillLand)
         counts += "\n" + Filling_text(result.Filled);
-    return {counts, Remarks_on(coast, result), true};
-}
-
-std::vector<MarkLine> Coast_marks(const Project& project, const LaidCoast& coast) {
-    std::vector<MarkLine> marks;
-    if (!Has_scale(project)) return marks;
-    const auto pixel = [&](Position at) { return VTP_to_canvas(project, at[0], at[1]); };
-    for (const auto& [ink, width] : {std::pair{PreviewRim, RimWidth}, {PreviewInk, PreviewWidth}})
-        for (const LaidLine& line : coast.Lines)
-            for (std::size_t i = 1; i < line.Points.size(); ++i)
-                marks.push_back({pixel(line.Points[i - 1]), pixel(line.Points[i]), ink, width});
-    return marks;
+    return {counts, Remarks_on(coast, result), std::move(marks), true};
 }
 
 ImportResult Import_coast_file(Document& document, Session& session, const CoastImport& import) {
@@ -108,13 +117,14 @@ ImportResult Import_coast_file(Document& document, Session& session, const Coast
 
 std::string Imported_text(const LaidCoast& coast, const ImportResult& result) {
     if (!result.Refusal.empty()) return result.Refusal;
-    std::string text = Counted(static_cast<int>(coast.Lines.size()), "line", "lines") + " with " +
-                       Counted(coast.Points, "point", "points");
-    if (result.Cleared > 0) text += ", " + Counted(result.Cleared, "cell", "cells") + " to clear";
+    std::string text = Counted(static_cast<int>(coast.Lines.size()), "line", "lines") +
+                       " imported, " + Counted(coast.Points, "point", "points");
     const int polygons = static_cast<int>(result.Filled.Polygons.size());
-    if (polygons > 0 && result.Filled.Fits())
-        text += ", " + Counted(polygons, "polygon", "polygons");
-    return text + " imported.";
+    if (polygons > 0)
+        text += ", " + (result.Filled.Fits() ? Counted(polygons, "polygon", "polygons")
+                                             : "without the polygons");
+    if (result.Cleared > 0) text += ", " + Counted(result.Cleared, "cell", "cells") + " cleared";
+    return text + ".";
 }
 
 }  // namespace tidemark

@@ -41,12 +41,10 @@ struct CoastImport {
 struct ImportPreview {
     std::string CountText;             // one line for each sort of entries; why it is not possible
     std::vector<std::string> Remarks;  // what is left out, and the errors there would be
+    MapMarks Marks;  // the lines, and the polygons along them; on a map with scale
     bool IsPossible = false;
 };
 ImportPreview Preview_import(const Project& project, const CoastImport& import);
-
-// The lines of a laid coast on the map; none on a map without scale.
-std::vector<MarkLine> Coast_marks(const Project& project, const LaidCoast& coast);
 
 // Imports as one step; no step when it is refused.
 ImportResult Import_coast_file(Document& document, Session& session, const CoastImport& import);

@@ -102,6 +102,7 @@ class TidemarkMain : public QMainWindow {
     void Show_chosen();
     void Fill_coast();
     void Import_coast(const QString& path);
+    void Show_preview(const MapMarks& preview);
     void Show_place(VTPPlace place);
     void Show_marks();
     void EditButton_Click();
@@ -150,7 +151,7 @@ class TidemarkMain : public QMainWindow {
     GoTo* go_to_ = nullptr;
     FillCoast* fill_coast_ = nullptr;
     ImportCoast* import_coast_ = nullptr;
-    std::vector<MarkLine> preview_;  // of what is being imported
+    MapMarks preview_;  // of what is being imported
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

@@ -80,6 +80,12 @@ TEST_F(ImportTest, ADroppedCoastIsCountedShownImportedAndUndone) {
             EXPECT_TRUE(lines.starts_with("1 line, ")) << lines;
             Click(Control<QCheckBox>(dialog, "FillWaterCheck"));
             EXPECT_EQ(Counted(dialog), lines + "\n3 cells; 3 polygons needed, 200 free");
+            const auto tint = [&] { return Map().pixelColor(100, 450); };
+            const QColor water = tint();
+            Click(Control<QCheckBox>(dialog, "ReverseCheck"));
+            EXPECT_NE(tint(), water) << "the water is on the other side now";
+            Click(Control<QCheckBox>(dialog, "ReverseCheck"));
+            EXPECT_EQ(tint(), water);
             Type(Control<QLineEdit>(dialog, "ToleranceText"), "0");
             EXPECT_EQ(Counted(dialog), WrongToleranceText);
             EXPECT_FALSE(Control<QPushButton>(dialog, "OkButton").isEnabled());
@@ -98,7 +104,7 @@ TEST_F(ImportTest, ADroppedCoastIsCountedShownImportedAndUndone) {
     EXPECT_GE(now.VTPCount, 4);
     EXPECT_EQ(now.LWMCount, 3);
     EXPECT_EQ(now.LWMType(1), WaterPolygon);
-    EXPECT_TRUE(Said().ends_with(" points, 3 polygons imported.")) << Said();
+    EXPECT_TRUE(Said().ends_with(" points, 3 polygons.")) << Said();
     EXPECT_TRUE(window_.Current_session().DataChanged);
     window_.findChild<QAction*>("EditUndo")->trigger();
     EXPECT_TRUE(window_.Current_project() == before);
