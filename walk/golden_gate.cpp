@@ -70,6 +70,7 @@ class Walk {
     void Draw_without_the_mouse() {
         Draw_with_keys_only(window_, [this] { Take_picture("drawing-by-keys"); });
     }
+    void Import_the_coast();
     void Open_the_sample();
     void Exit_through_the_question();
 
@@ -261,6 +262,29 @@ void Walk::Save_and_compile(const char* entry, const QString& name, const QStrin
     Check(QFile(copy).size() > QFile(name + ".asm").size(), copy + " is not the compiled file");
 }
 
+// Of the whole map, with nothing on it yet.
+void Walk::Import_the_coast() {
+    while (Now().VTPCount > 0) Click(Control<QWidget>(window_, "EditUndoButton"));
+    Click(Control<QWidget>(window_, "ZoomWholeButton"));
+    Plan plan;
+    plan.Then([&](QWidget& dialog) {
+        Click(Control<QPushButton>(dialog, "CoastFileButton"));  // the next step comes up inside
+        Choose_line(Control<QComboBox>(dialog, "ImportModeCombo"), "Coastline (sand), no waves");
+        for (const char* const check : {"ReverseCheck", "ClearCellsCheck", "FillWaterCheck"})
+            Click(Control<QCheckBox>(dialog, check));
+        Save_picture({&window_, &panel_, &dialog}, "import-coast");
+        Click(Control<QPushButton>(dialog, "OkButton"));
+    });
+    plan.Then_choose(QDir::current().absoluteFilePath("golden-gate-coastline.geojson"));
+    Click(Control<QWidget>(window_, "ImportCoastButton"));
+    plan.Finish();
+    Check(Now().VTPCount > 100 && Now().KillCount > 50 && Now().LWMCount > 50,
+          "the coast was not imported");
+    Click(Control<QWidget>(window_, "ZoomResetButton"));
+    Scroll_to({1300, 700});
+    Take_picture("imported");
+}
+
 void Walk::Open_the_sample() {
     Plan plan;
     plan.Then_choose(QDir::current().absoluteFilePath("golden-gate.TDM"));
@@ -293,7 +317,8 @@ void Walk::Exit_through_the_question() {
 void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     QDir::setCurrent(folders.Out);
     QFile::remove("BGLC.EXE");  // of an earlier walk
-    for (const char* const name : {"golden-gate.TDM", "golden-gate.jpg"})
+    for (const char* const name :
+         {"golden-gate.TDM", "golden-gate.jpg", "golden-gate-coastline.geojson"})
         Copy_file(folders.Sample + "/" + name, name);
     Walk walk(window);
     walk.Start_empty();
@@ -307,14 +332,16 @@ void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     walk.Write_both_files();
     walk.Compile_and_copy(folders.Compiler);
     walk.Draw_without_the_mouse();
+    walk.Import_the_coast();
     walk.Open_the_sample();
     walk.Mend_and_fill();
     walk.Exit_through_the_question();
-    Save_picture_strip({"empty.png", "background-properties.png", "cell-calculator.png",
-                        "drawing.png", "edit-point.png", "polygons.png", "preferences.png",
-                        "compiling.png", "copied.png", "drawing-by-keys.png", "main-window.png",
-                        "coast-check.png", "coast-filled.png", "exit-question.png"},
-                       "strip.png");
+    Save_picture_strip(
+        {"empty.png", "background-properties.png", "cell-calculator.png", "drawing.png",
+         "edit-point.png", "polygons.png", "preferences.png", "compiling.png", "copied.png",
+         "drawing-by-keys.png", "import-coast.png", "imported.png", "main-window.png",
+         "coast-check.png", "coast-filled.png", "exit-question.png"},
+        "strip.png");
 }
 
 }  // namespace tidemark

@@ -60,6 +60,7 @@ QPoint MendedCoast::Pixel(Place place) const {
 }
 
 void MendedCoast::Draw() {
+    map_.Zoom_reset();
     const QPoint middle = Pixel({12, 22, 128, 128});
     map_.Center_on({double(middle.x()), double(middle.y())});
     Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), "Coastline (sand), no waves");

@@ -149,6 +149,7 @@ void TidemarkMain::Wire_tool_bar() {
     connect(&tool_bar_->FillCoast(), &QAction::triggered, this, &TidemarkMain::Fill_coast);
     connect(&tool_bar_->ClearCoast(), &QAction::triggered, this,
             [this] { Say(Clear_along_coast(document_, session_)); });
+    connect(&tool_bar_->ImportCoast(), &QAction::triggered, this, [this] { Import_coast(""); });
     connect(tool_bar_, &ToolBar::Marks_changed, this, &TidemarkMain::Show_marks);
     key_drawing_ = new KeyDrawing(*map_, tool_bar_->DrawByKeys(), document_, session_, this);
 }
@@ -289,30 +290,35 @@ bool TidemarkMain::event(QEvent* event) {
 
 namespace {
 
-// The one project file that is being dragged; empty for anything else, and while a dialog works on
-// the project that is there: being modal does not keep a drop away.
-QString Dragged_project(const QMimeData& data) {
+bool Is_project_file(const QString& path) {
+    return path.endsWith(".tdm", Qt::CaseInsensitive);
+}
+
+// The one project or coast file that is being dragged; empty for anything else, and while a dialog
+// works on the project that is there: being modal does not keep a drop away.
+QString Dragged_file(const QMimeData& data) {
     if (QApplication::activeModalWidget()) return {};
     const QList<QUrl> urls = data.urls();
     if (urls.size() != 1 || !urls.first().isLocalFile()) return {};
     const QString path = urls.first().toLocalFile();
-    return path.endsWith(".tdm", Qt::CaseInsensitive) ? path : QString();
+    return Is_project_file(path) || Is_coast_file(From_qt(path)) ? path : QString();
 }
 
 }  // namespace
 
 void TidemarkMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (!Dragged_project(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+    if (!Dragged_file(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
 void TidemarkMain::dropEvent(QDropEvent* event) {
-    const QString path = Dragged_project(*event->mimeData());
+    const QString path = Dragged_file(*event->mimeData());
     if (path.isEmpty()) return;
     event->acceptProposedAction();
     // Later, so that the program it was dragged from does not wait for the boxes that may come up.
     // A slip of the hand on the way to another window is not a wish to lose anything.
     QTimer::singleShot(0, this, [this, path] {
         if (QApplication::activeModalWidget()) return;  // it has come up meanwhile
+        if (!Is_project_file(path)) return Import_coast(path);
         if (May_clear_project(session_, messages_)) Open(path);
     });
 }

@@ -9,6 +9,7 @@
 #include "app/coast_check_window.h"
 #include "app/coast_watch_window.h"
 #include "app/fill_coast_window.h"
+#include "app/import_coast_window.h"
 #include "app/key_drawing_window.h"
 #include "app/map_commands.h"
 #include "app/project_watch_window.h"
@@ -102,6 +103,8 @@ class TidemarkMain : public QMainWindow {
     void Go_to();
     void Show_chosen();
     void Fill_coast();
+    void Import_coast(const QString& path);
+    void Show_preview(const MapMarks& preview);
     void Show_place(VTPPlace place);
     void Show_marks();
     void EditButton_Click();
@@ -160,6 +163,8 @@ class TidemarkMain : public QMainWindow {
     GoTo* go_to_ = nullptr;
     FillCoast* fill_coast_ = nullptr;
     CoastCheck* coast_check_ = nullptr;
+    ImportCoast* import_coast_ = nullptr;
+    MapMarks preview_;  // of what is being imported
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

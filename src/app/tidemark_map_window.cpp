@@ -1,4 +1,6 @@
 // The main window's handlers for the map and what is done on it.
+#include <algorithm>
+
 #include <QScopeGuard>
 #include <QStatusBar>
 
@@ -175,7 +177,10 @@ void TidemarkMain::Refresh_Graphics() {
 
 void TidemarkMain::Show_marks() {
     const MarkKinds kinds = tool_bar_->Wanted_marks();
-    map_->Canvas().Show_marks(Marks_of(document_.Now(), session_, kinds));
+    MapMarks marks = Marks_of(document_.Now(), session_, kinds);
+    marks.Areas.insert(marks.Areas.end(), preview_.Areas.begin(), preview_.Areas.end());
+    marks.Lines.insert(marks.Lines.end(), preview_.Lines.begin(), preview_.Lines.end());
+    map_->Canvas().Show_marks(std::move(marks));
     if (!kinds.Pointer) map_->Canvas().Show_pointer_frame({});
 }
 
@@ -197,6 +202,30 @@ void TidemarkMain::Fill_coast() {
     if (!plan) return;
     Fill_along_coast(document_, session_, *plan);
     Say(std::to_string(plan->Polygons.size()) + " polygons added along the coast.");
+}
+
+void TidemarkMain::Import_coast(const QString& path) {
+    if (!Has_map_area(document_.Now())) return Say(std::string(NoMapAreaText));
+    if (!import_coast_) {
+        import_coast_ = new ImportCoast(platform_, this);
+        connect(import_coast_, &ImportCoast::Preview_changed, this, &TidemarkMain::Show_preview);
+    }
+    const auto wanted = import_coast_->Ask(document_.Now(), path);
+    if (wanted) Say(Imported_text(wanted->Coast, Import_coast_file(document_, session_, *wanted)));
+}
+
+// A preview of which nothing is in view is brought into it.
+void TidemarkMain::Show_preview(const MapMarks& preview) {
+    preview_ = preview;
+    Show_marks();
+    const auto [from, to] = map_->Canvas_in_view();
+    const auto is_in_view = [from = from, to = to](const MarkLine& line) {
+        return line.From.X >= from.X && line.From.X <= to.X && line.From.Y >= from.Y &&
+               line.From.Y <= to.Y;
+    };
+    const std::vector<MarkLine>& lines = preview.Lines;
+    if (!lines.empty() && std::none_of(lines.begin(), lines.end(), is_in_view))
+        map_->Center_on(lines.front().To);
 }
 
 void TidemarkMain::Show_place(VTPPlace place) {

@@ -106,6 +106,8 @@ void ToolBar::Add_coast_commands() {
                              Drawn_icon(FillCoastIcon()), {Qt::CTRL | Qt::Key_F});
     ClearCoast_ = Add_command(*this, "ClearCoast", "Clear along the coast",
                               Drawn_icon(ClearCoastIcon()), {Qt::CTRL | Qt::Key_K});
+    ImportCoast_ = Add_command(*this, "ImportCoast", "Import coast", Drawn_icon(ImportCoastIcon()),
+                               {Qt::CTRL | Qt::Key_I});
 }
 
 MarkKinds ToolBar::Wanted_marks() const {

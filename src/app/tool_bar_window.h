@@ -35,6 +35,7 @@ class ToolBar : public QToolBar {
     QAction& CoastCheck() { return *CoastCheck_; }
     // How many findings there are stands beside the icon.
     void Show_findings(const Findings& findings);
+    QAction& ImportCoast() { return *ImportCoast_; }
     // Which marks are wanted; all off while the marks are.
     MarkKinds Wanted_marks() const;
 
@@ -50,6 +51,7 @@ class ToolBar : public QToolBar {
     QAction* EditRedo_;
     QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr, *DrawByKeys_ = nullptr;
     QAction *CoastCheck_ = nullptr, *FillCoast_ = nullptr, *ClearCoast_ = nullptr;
+    QAction* ImportCoast_ = nullptr;
     std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds
     QAction* ZoomOut_;
     QAction* ZoomReset_;

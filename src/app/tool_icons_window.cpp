@@ -110,6 +110,16 @@ IconShapes ClearCoastIcon() {
     return shapes;
 }
 
+// An arrow that brings a coast down into a tray.
+IconShapes ImportCoastIcon() {
+    IconShapes shapes;
+    shapes.Strokes.addPolygon(QPolygonF({{3.5, 14}, {3.5, 20.5}, {20.5, 20.5}, {20.5, 14}}));
+    shapes.Strokes.moveTo(12, 10);
+    shapes.Strokes.cubicTo(15, 8, 9, 5, 12, 2.5);
+    shapes.Fills.addPolygon(QPolygonF({{7, 10}, {17, 10}, {12, 16.5}, {7, 10}}));
+    return shapes;
+}
+
 // A place in the middle of a frame.
 IconShapes ShowChosenIcon() {
     IconShapes shapes;

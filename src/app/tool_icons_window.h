@@ -17,5 +17,6 @@ IconShapes DrawByKeysIcon();
 IconShapes FillCoastIcon();
 IconShapes ClearCoastIcon();
 IconShapes CoastCheckIcon();
+IconShapes ImportCoastIcon();
 
 }  // namespace tidemark

@@ -32,7 +32,9 @@ void Check_outline(const Project& p, int polygon, const std::vector<Outline>& ca
                                                          "it and click it again"));
         return;
     }
-    if (std::any_of(candidates.begin(), candidates.end(),
+    // A project without points holds polygons whose coastlines are in another one.
+    if (p.VTPCount == 0 ||
+        std::any_of(candidates.begin(), candidates.end(),
                     [&](const Outline& piece) { return Is_built_as(outline, piece); }))
         return;
     Finding found =

@@ -188,6 +188,18 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgainAndTheNextClickGoesWhereItWo
              Action("CoastCheck").trigger();
              Click(Of_check<QPushButton>("MendAllButton"));
          }},
+        {"import coast",
+         [this] {
+             Write_file(folder_ / "coast.json",
+                        R"({"type": "LineString",
+                            "coordinates": [[-179.98, 89.93], [-179.94, 89.92], [-179.9, 89.93]]})");
+             plan_.Then([](QWidget& dialog) {
+                 Click(Control<QPushButton>(dialog, "CoastFileButton"));
+                 Press(dialog, Qt::Key_Return);
+             });
+             plan_.Then_choose(QString::fromStdString(folder_ / "coast.json"));
+             Action("ImportCoast").trigger();
+         }},
         {"change background properties",
          [this] {
              Plan_properties("6");
