@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QMainWindow>
 
+#include "app/coast_check_window.h"
+#include "app/coast_watch_window.h"
 #include "app/fill_coast_window.h"
 #include "app/key_drawing_window.h"
 #include "app/map_commands.h"
@@ -108,6 +110,15 @@ class TidemarkMain : public QMainWindow {
     bool Show_picture();
     void Refresh_Graphics();
 
+    // The coast check, in tidemark_coast_window.cpp.
+    void Wire_coast_check();
+    void CoastCheck_Click();
+    void Place_coast_check();
+    std::vector<MarkLine> Frame_of_finding();
+    void Bring_finding_into_view();
+    void Go_to_finding(const Finding& finding);
+    void Add_polygon();
+
     MapScreen Screen();
     EditPoint& Edit_point_dialog();
     BGproperties& Background_properties();
@@ -138,6 +149,7 @@ class TidemarkMain : public QMainWindow {
     KeyDrawing* key_drawing_ = nullptr;
     ProjectWatch* watch_;
     StatusLine* status_line_;
+    CoastWatch* coast_watch_;
     bool picture_is_gone_ = false;    // that the step last shown wants
     bool is_session_ending_ = false;  // of the desktop
     QString remark_;                  // on the polygon added last
@@ -147,6 +159,7 @@ class TidemarkMain : public QMainWindow {
     CellCalculator* calculator_ = nullptr;
     GoTo* go_to_ = nullptr;
     FillCoast* fill_coast_ = nullptr;
+    CoastCheck* coast_check_ = nullptr;
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

@@ -16,5 +16,6 @@ IconShapes ShowChosenIcon();
 IconShapes DrawByKeysIcon();
 IconShapes FillCoastIcon();
 IconShapes ClearCoastIcon();
+IconShapes CoastCheckIcon();
 
 }  // namespace tidemark
