@@ -66,6 +66,7 @@ class CoastCompanion {
     std::optional<std::vector<Touched>> Cells() {
         std::vector<Touched> cells;
         const std::set<WorldCell> named(task_.Cells.begin(), task_.Cells.end());
+        cells.reserve(named.size());
         for (const WorldCell cell : named) cells.push_back({cell, 1});
         if (!cells.empty()) return cells;
         CoastCells touched;
@@ -149,7 +150,7 @@ class CoastCompanion {
             const CoastProjects projects =
                 Coast_projects(cell.Cell, folder_, cell.Lines, task_.Options, saved_on_);
             for (const std::string& remark : projects.Remarks)
-                report.Errors += name + ": Remark: " + remark + '\n';
+                report.Errors.append(name).append(": Remark: ").append(remark).append("\n");
             if (!projects.Refusal.empty()) {
                 report.Errors += name + ": " + projects.Refusal + '\n';
                 report.IsRefused = true;
