@@ -66,6 +66,7 @@ class CoastCompanion {
     std::optional<std::vector<Touched>> Cells() {
         std::vector<Touched> cells;
         const std::set<WorldCell> named(task_.Cells.begin(), task_.Cells.end());
+        cells.reserve(named.size());
         for (const WorldCell cell : named) cells.push_back({cell, 1});
         if (!cells.empty()) return cells;
         CoastCells touched;
@@ -94,18 +95,22 @@ class CoastCompanion {
 
     // The next batch is read while the last one is worked on. False when a file was refused.
     bool Work_on(std::span<const Touched> cells) {
-        if (cells.empty()) return true;
+        if (!cells.empty()) Share_out(cells);
+        return refusal_.empty() || Refuse(refusal_);
+    }
+
+    // Until a file is refused, which is not told before the threads are at their end.
+    void Share_out(std::span<const Touched> cells) {
         CoastWorkers workers(
             task_.Threads, [this](const CellWork& cell) { return Make_projects(cell); },
             [this](const CellReport& report) { Tell(report); });
         while (!cells.empty()) {
             const std::size_t count = Size_of_batch(cells);
             auto batch = Read(cells.first(count));
-            if (batch.empty()) return false;
+            if (batch.empty()) return;
             workers.Give(std::move(batch));
             cells = cells.subspan(count);
         }
-        return true;
     }
 
     static std::size_t Size_of_batch(std::span<const Touched> cells) {
@@ -128,7 +133,7 @@ class CoastCompanion {
         for (const std::string& coast : task_.Coasts) {
             CoastFileReading reading = Read_coast_file(Path_of(coast), boxes);
             if (reading.Refusal) {
-                Refuse(Refusal_text(Path_of(coast), *reading.Refusal));
+                refusal_ = Refusal_text(Path_of(coast), *reading.Refusal);
                 return {};
             }
             for (std::size_t i = 0; i < batch.size(); ++i)
@@ -145,7 +150,7 @@ class CoastCompanion {
             const CoastProjects projects =
                 Coast_projects(cell.Cell, folder_, cell.Lines, task_.Options, saved_on_);
             for (const std::string& remark : projects.Remarks)
-                report.Errors += name + ": Remark: " + remark + '\n';
+                report.Errors.append(name).append(": Remark: ").append(remark).append("\n");
             if (!projects.Refusal.empty()) {
                 report.Errors += name + ": " + projects.Refusal + '\n';
                 report.IsRefused = true;
@@ -208,7 +213,8 @@ class CoastCompanion {
     std::ostream& out_;
     std::ostream& errors_;
     const std::string saved_on_;
-    std::string folder_;  // full, with its last separator
+    std::string folder_;   // full, with its last separator
+    std::string refusal_;  // of a file that went well before
     bool all_is_well_ = true;
 };
 

@@ -1,12 +1,17 @@
 #include "app/coast_workers.h"
 
+#include <system_error>
 #include <utility>
 
 namespace tidemark {
 
 CoastWorkers::CoastWorkers(unsigned threads, Work work, Tell tell)
     : work_(std::move(work)), tell_(std::move(tell)) {
-    for (unsigned i = 0; i < threads; ++i) threads_.emplace_back([this] { Run(); });
+    try {
+        while (threads_.size() < threads) threads_.emplace_back([this] { Run(); });
+    } catch (const std::system_error&) {  // the system has no more of them
+        if (threads_.empty()) throw;
+    }
 }
 
 CoastWorkers::~CoastWorkers() {

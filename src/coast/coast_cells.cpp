@@ -26,6 +26,10 @@ int Index(double cells) {
     return static_cast<int>(std::floor(cells));
 }
 
+std::size_t Place_of(int column, int row) {
+    return static_cast<std::size_t>(row) * std::size_t{Columns} + static_cast<std::size_t>(column);
+}
+
 }  // namespace
 
 WorldCell Cell_at(const CoastPosition& place) {
@@ -37,8 +41,7 @@ CoastCells::CoastCells() : segments_(std::size_t{Columns} * Rows) {}
 
 void CoastCells::Count(int column, int row) {
     const int turned = (column % Columns + Columns) % Columns;
-    const int place = std::clamp(row, 0, LastLOD8Row) * Columns + turned;
-    ++segments_[static_cast<std::size_t>(place)];
+    ++segments_[Place_of(turned, std::clamp(row, 0, LastLOD8Row))];
 }
 
 // Column by column: the rows of the part of the segment that lies in it.
@@ -65,7 +68,7 @@ std::vector<CoastCells::Touched> CoastCells::All() const {
     std::vector<Touched> cells;
     for (int row = 0; row < Rows; ++row)
         for (int column = 0; column < Columns; ++column)
-            if (const auto count = segments_[static_cast<std::size_t>(row * Columns + column)])
+            if (const auto count = segments_[Place_of(column, row)])
                 cells.push_back({{column, row}, count});
     return cells;
 }
