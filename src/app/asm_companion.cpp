@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "app/read_project.h"
+#include "coast/check.h"
 #include "model/path_text.h"
 #include "output/assembler_files.h"
 #include "output/foreign_file.h"
@@ -61,11 +62,21 @@ class Companion {
     Companion(const CompanionTask& task, Files& files, std::ostream& out, std::ostream& errors)
         : task_(task), files_(files), out_(out), errors_(errors) {}
 
-    // False when anything was refused.
-    bool Write_files_of(const std::string& path) {
+    // False when anything was refused, or the coast is to be checked and has errors.
+    bool Take(const std::string& path) {
         Project project;
-        Session session;
         if (!Read_and_repair(path, project, files_, errors_)) return false;
+        const Findings findings = Check_coast(project);
+        for (const Finding& finding : findings)
+            if (task_.ChecksOnly || finding.IsError)
+                (task_.ChecksOnly ? out_ : errors_)
+                    << path << ": " << Finding_line(finding) << '\n';
+        return task_.ChecksOnly ? Count_errors(findings) == 0 : Write_files_of(path, project);
+    }
+
+  private:
+    bool Write_files_of(const std::string& path, Project& project) {
+        Session session;
         ConsoleMessages messages(errors_, path);
         project.VTPFileName = Output_path(task_, path, project, project.VTPFileName, "-VTP.asm");
         project.LWMFileName = Output_path(task_, path, project, project.LWMFileName, "-LWM.asm");
@@ -80,7 +91,6 @@ class Companion {
         return vtp_written && lwm_written;
     }
 
-  private:
     // A name that leads to a file of this run is refused: what was written first would be lost. So
     // is one that leads to somebody else's work.
     template <class Write_file>
@@ -113,9 +123,9 @@ class Companion {
 bool Write_assembler_files(const CompanionTask& task, Files& files, std::ostream& out,
                            std::ostream& errors) {
     Companion companion(task, files, out, errors);
-    bool all_written = true;
-    for (const std::string& path : task.Projects) all_written &= companion.Write_files_of(path);
-    return all_written;
+    bool all_is_well = true;
+    for (const std::string& path : task.Projects) all_is_well &= companion.Take(path);
+    return all_is_well;
 }
 
 }  // namespace tidemark

@@ -1,4 +1,5 @@
-// tidemark-asm: writes the assembler files of projects from the command line.
+// tidemark-asm: writes the assembler files of projects from the command line, and checks their
+// coasts.
 #include <getopt.h>
 #include <iostream>
 
@@ -12,8 +13,11 @@ constexpr int ExitUsage = 2;
 
 constexpr const char* Usage =
     "Usage: tidemark-asm [--output-folder DIR] PROJECT.TDM...\n"
-    "Writes the VTP and LWM assembler files of Tidemark projects.\n"
+    "       tidemark-asm --check PROJECT.TDM...\n"
+    "Writes the VTP and LWM assembler files of Tidemark projects, and warns of errors in\n"
+    "their coasts.\n"
     "\n"
+    "  --check              print what the coast check finds instead, and write nothing\n"
     "  --output-folder DIR  put the files into DIR instead of where their names say\n"
     "  --help               show this help\n"
     "  --version            show the version\n";
@@ -28,7 +32,8 @@ int Ended(int code) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    constexpr option options[] = {{"output-folder", required_argument, nullptr, 'o'},
+    constexpr option options[] = {{"check", no_argument, nullptr, 'c'},
+                                  {"output-folder", required_argument, nullptr, 'o'},
                                   {"help", no_argument, nullptr, 'h'},
                                   {"version", no_argument, nullptr, 'v'},
                                   {}};
@@ -43,6 +48,9 @@ int main(int argc, char** argv) {
     tidemark::CompanionTask task;
     for (int found; (found = getopt_long(count, words.data(), "", options, nullptr)) != -1;) {
         switch (found) {
+            case 'c':
+                task.ChecksOnly = true;
+                break;
             case 'o':
                 task.OutputFolder = optarg;
                 break;
@@ -65,6 +73,6 @@ int main(int argc, char** argv) {
         return ExitUsage;
     }
     tidemark::DiskFiles files;
-    const bool all_written = Write_assembler_files(task, files, std::cout, std::cerr);
-    return Ended(all_written ? 0 : ExitRefused);
+    const bool all_is_well = Write_assembler_files(task, files, std::cout, std::cerr);
+    return Ended(all_is_well ? 0 : ExitRefused);
 }

@@ -91,7 +91,8 @@ TidemarkMain::TidemarkMain()
       status_(new Status(document_, session_, messages_, this)),
       tool_bar_(new ToolBar(this)),
       watch_(new ProjectWatch(this)),
-      status_line_(new StatusLine(*statusBar())) {
+      status_line_(new StatusLine(*statusBar())),
+      coast_watch_(new CoastWatch(document_, this)) {
     setObjectName("TidemarkMain");
     setWindowTitle("Tidemark");
     setAcceptDrops(true);
@@ -104,6 +105,7 @@ TidemarkMain::TidemarkMain()
     Wire_watch();
     Wire_map();
     Wire_status_panel();
+    Wire_coast_check();
     Form_Load();
 }
 

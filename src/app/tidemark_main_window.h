@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QMainWindow>
 
+#include "app/coast_check_window.h"
+#include "app/coast_watch_window.h"
 #include "app/fill_coast_window.h"
 #include "app/import_coast_window.h"
 #include "app/key_drawing_window.h"
@@ -111,6 +113,15 @@ class TidemarkMain : public QMainWindow {
     bool Show_picture();
     void Refresh_Graphics();
 
+    // The coast check, in tidemark_coast_window.cpp.
+    void Wire_coast_check();
+    void CoastCheck_Click();
+    void Place_coast_check();
+    std::vector<MarkLine> Frame_of_finding();
+    void Bring_finding_into_view();
+    void Go_to_finding(const Finding& finding);
+    void Add_polygon();
+
     MapScreen Screen();
     EditPoint& Edit_point_dialog();
     BGproperties& Background_properties();
@@ -141,6 +152,7 @@ class TidemarkMain : public QMainWindow {
     KeyDrawing* key_drawing_ = nullptr;
     ProjectWatch* watch_;
     StatusLine* status_line_;
+    CoastWatch* coast_watch_;
     bool picture_is_gone_ = false;    // that the step last shown wants
     bool is_session_ending_ = false;  // of the desktop
     QString remark_;                  // on the polygon added last
@@ -152,6 +164,7 @@ class TidemarkMain : public QMainWindow {
     FillCoast* fill_coast_ = nullptr;
     ImportCoast* import_coast_ = nullptr;
     MapMarks preview_;  // of what is being imported
+    CoastCheck* coast_check_ = nullptr;
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

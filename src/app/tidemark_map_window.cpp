@@ -76,7 +76,7 @@ void TidemarkMain::Left_click() {
             status_->VTP().Add_VTP_Point();
             break;
         case Adds::Polygon:
-            status_->LWM().Add_LWM_Poly();
+            Add_polygon();
             break;
         case Adds::ClearedCell:
             status_->Kill().Add_Kill_Cell();
@@ -137,6 +137,7 @@ void TidemarkMain::Show_project() {
     entries_.BackgroundProperties->setEnabled(!opened.Picture.empty());
     tool_bar_->Show_history(document_);
     status_line_->Show_counts(document_.Now());
+    coast_watch_->Notice();
     Notice_state();
     Refresh_Graphics();
 }

@@ -4,6 +4,7 @@
 #include <QToolButton>
 
 #include "app/tool_icons_window.h"
+#include "coast/finding_choice.h"
 #include "platform/qt_drawn_icon.h"
 #include "platform/qt_text.h"
 
@@ -61,15 +62,9 @@ ToolBar::ToolBar(QWidget* parent)
     DrawByKeys_ = Add_command(*this, "DrawByKeys", "Draw by keys", Drawn_icon(DrawByKeysIcon()),
                               {Qt::Key_F7});
     DrawByKeys_->setCheckable(true);
-    addSeparator()->setObjectName("sep8");
-    FillCoast_ = Add_command(*this, "FillCoast", "Fill along the coast",
-                             Drawn_icon(FillCoastIcon()), {Qt::CTRL | Qt::Key_F});
-    ClearCoast_ = Add_command(*this, "ClearCoast", "Clear along the coast",
-                              Drawn_icon(ClearCoastIcon()), {Qt::CTRL | Qt::Key_K});
-    ImportCoast_ = Add_command(*this, "ImportCoast", "Import coast", Drawn_icon(ImportCoastIcon()),
-                               {Qt::CTRL | Qt::Key_I});
     for (QAction* const action : {Marks_, GoTo_, ShowChosen_, DrawByKeys_})
         action->setEnabled(false);
+    Add_coast_commands();
     // What stands to the right of the level keeps its place.
     QWidget& level = *widgetForAction(ZoomReset_);
     ZoomReset_->setIconText("1600 %");
@@ -102,6 +97,19 @@ void ToolBar::Add_marks() {
     connect(Marks_, &QAction::toggled, this, &ToolBar::Marks_changed);
 }
 
+void ToolBar::Add_coast_commands() {
+    addSeparator()->setObjectName("sep8");
+    CoastCheck_ =
+        Add_command(*this, "CoastCheck", "Coast check", Drawn_icon(CoastCheckIcon()), {Qt::Key_F8});
+    Show_findings({});
+    FillCoast_ = Add_command(*this, "FillCoast", "Fill along the coast",
+                             Drawn_icon(FillCoastIcon()), {Qt::CTRL | Qt::Key_F});
+    ClearCoast_ = Add_command(*this, "ClearCoast", "Clear along the coast",
+                              Drawn_icon(ClearCoastIcon()), {Qt::CTRL | Qt::Key_K});
+    ImportCoast_ = Add_command(*this, "ImportCoast", "Import coast", Drawn_icon(ImportCoastIcon()),
+                               {Qt::CTRL | Qt::Key_I});
+}
+
 MarkKinds ToolBar::Wanted_marks() const {
     const auto is_wanted = [this](std::size_t kind) {
         return Marks_->isChecked() && mark_kinds_[kind]->isChecked();
@@ -112,6 +120,16 @@ MarkKinds ToolBar::Wanted_marks() const {
 void ToolBar::Show_history(const Document& document) {
     Show_step(*EditUndo_, document.Can_undo(), document.What_undo());
     Show_step(*EditRedo_, document.Can_redo(), document.What_redo());
+}
+
+void ToolBar::Show_findings(const Findings& findings) {
+    const QString summary = To_qt(Findings_summary(findings));
+    auto& button = *qobject_cast<QToolButton*>(widgetForAction(CoastCheck_));
+    CoastCheck_->setIconText(QString::number(findings.size()));
+    CoastCheck_->setToolTip(Tip(*CoastCheck_, summary));
+    button.setAccessibleName(CoastCheck_->text() + ": " + summary);
+    button.setToolButtonStyle(findings.empty() ? Qt::ToolButtonIconOnly
+                                               : Qt::ToolButtonTextBesideIcon);
 }
 
 void ToolBar::Zoom(MapView& map) {

@@ -7,6 +7,7 @@
 
 #include "canvas/map_marks.h"
 #include "canvas/map_view_window.h"
+#include "coast/finding.h"
 #include "model/document.h"
 
 namespace tidemark {
@@ -32,6 +33,9 @@ class ToolBar : public QToolBar {
     QAction& FillCoast() { return *FillCoast_; }
     QAction& ClearCoast() { return *ClearCoast_; }
     QAction& ImportCoast() { return *ImportCoast_; }
+    QAction& CoastCheck() { return *CoastCheck_; }
+    // How many findings there are stands beside the icon.
+    void Show_findings(const Findings& findings);
     // Which marks are wanted; all off while the marks are.
     MarkKinds Wanted_marks() const;
 
@@ -40,12 +44,13 @@ class ToolBar : public QToolBar {
 
   private:
     void Add_marks();
+    void Add_coast_commands();
     void Show_zoom(const MapView& map);
 
     QAction* EditUndo_;
     QAction* EditRedo_;
     QAction *Marks_ = nullptr, *GoTo_ = nullptr, *ShowChosen_ = nullptr, *DrawByKeys_ = nullptr;
-    QAction *FillCoast_ = nullptr, *ClearCoast_ = nullptr;
+    QAction *CoastCheck_ = nullptr, *FillCoast_ = nullptr, *ClearCoast_ = nullptr;
     QAction* ImportCoast_ = nullptr;
     std::array<QAction*, 4> mark_kinds_{};  // in the order of MarkKinds
     QAction* ZoomOut_;

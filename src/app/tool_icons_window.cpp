@@ -149,4 +149,14 @@ IconShapes DrawByKeysIcon() {
     return shapes;
 }
 
+// A tick over the waves of a coast.
+IconShapes CoastCheckIcon() {
+    IconShapes shapes;
+    shapes.Strokes.addPolygon(QPolygonF({{6.5, 8}, {10.5, 12}, {18.5, 3}}));
+    shapes.Strokes.moveTo(2.5, 18.5);
+    for (const double x : {2.5, 12.0})
+        shapes.Strokes.cubicTo(x + 3, 13.5, x + 6, 23, x + 9.5, 18.5);
+    return shapes;
+}
+
 }  // namespace tidemark

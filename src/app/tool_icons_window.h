@@ -17,5 +17,6 @@ IconShapes DrawByKeysIcon();
 IconShapes FillCoastIcon();
 IconShapes ClearCoastIcon();
 IconShapes ImportCoastIcon();
+IconShapes CoastCheckIcon();
 
 }  // namespace tidemark

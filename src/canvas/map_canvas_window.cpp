@@ -72,7 +72,8 @@ void MapCanvas::paintEvent(QPaintEvent* event) {
         Bring_up_to_date(visible);
         QPainter painter(this);
         painter.drawPixmap(visible.topLeft(), Marked(visible));
-        Paint_lines(painter, pointer_frame_, scale_.Zoom());
+        for (const auto* const frame : {&finding_frame_, &pointer_frame_})
+            Paint_lines(painter, *frame, scale_.Zoom());
         if (cross_) Paint_cross(painter, *cross_, scale_.Zoom());
         return;
     }
@@ -174,10 +175,18 @@ void MapCanvas::Show_marks(MapMarks marks) {
 }
 
 void MapCanvas::Show_pointer_frame(std::vector<MarkLine> frame) {
-    if (frame == pointer_frame_) return;
-    Update_around(pointer_frame_);
-    pointer_frame_ = std::move(frame);
-    Update_around(pointer_frame_);
+    Show_frame(pointer_frame_, std::move(frame));
+}
+
+void MapCanvas::Show_finding_frame(std::vector<MarkLine> frame) {
+    Show_frame(finding_frame_, std::move(frame));
+}
+
+void MapCanvas::Show_frame(std::vector<MarkLine>& shown, std::vector<MarkLine> frame) {
+    if (frame == shown) return;
+    Update_around(shown);
+    shown = std::move(frame);
+    Update_around(shown);
 }
 
 void MapCanvas::Update_around(const std::vector<MarkLine>& lines) {

@@ -36,6 +36,7 @@ class MapCanvas : public QWidget {
     // The layer above image and drawings; it does not touch what they look like.
     void Show_marks(MapMarks marks);
     void Show_pointer_frame(std::vector<MarkLine> frame);
+    void Show_finding_frame(std::vector<MarkLine> frame);
 
     // The cross that stands for the pointer while the keys draw, at a canvas pixel. Showing it
     // moves the mouse there, as far as anybody is told; it is pressed there, too. Without it the
@@ -71,12 +72,13 @@ class MapCanvas : public QWidget {
     void Tell(CanvasPoint place);
     void Tell_pointer();
     void Show_hand();
+    void Show_frame(std::vector<MarkLine>& shown, std::vector<MarkLine> frame);
 
     MapScale scale_;
     MapPicture picture_;
     QtSurface surface_;
     MapMarks marks_;
-    std::vector<MarkLine> pointer_frame_;
+    std::vector<MarkLine> pointer_frame_, finding_frame_;
     std::optional<CanvasPoint> cross_;
 
     // What the viewport shows, as the screen's own pixels: the image alone, so that scrolling

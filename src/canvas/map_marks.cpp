@@ -15,6 +15,7 @@ constexpr Colour WaterTint{0, 96, 255};
 constexpr Colour LandTint{0, 200, 0};
 constexpr Colour Dark{0, 0, 0};
 constexpr Colour Light{255, 255, 255};
+constexpr Colour FindingInk{224, 0, 0};
 
 constexpr int EdgeWidth = 1;
 constexpr int ChosenWidth = 5;
@@ -90,6 +91,26 @@ void Add_chosen(const Project& p, const PanelState& panel, MapMarks& marks) {
     });
 }
 
+struct FrameInk {
+    Colour Ink;
+    int Width;
+};
+
+// Around a cell of the map. In two colours, one on both sides of the other, it shows on any
+// picture.
+std::vector<MarkLine> Cell_frame(const Project& p, Int16 column, Int16 row, FrameInk outer,
+                                 FrameInk inner) {
+    std::vector<MarkLine> frame;
+    const bool is_on_map = column >= p.BGLOD13tlX && column <= p.BGLOD13brX &&
+                           row >= p.BGLOD13tlY && row <= p.BGLOD13brY;
+    if (!is_on_map || !Has_scale(p)) return frame;
+    Do_what_fits([&] {
+        for (const auto& [ink, width] : {outer, inner})
+            Add_ring(frame, Cell_outline(p, column, row), ink, width);
+    });
+    return frame;
+}
+
 }  // namespace
 
 MapMarks Marks_of(const Project& project, const Session& session, const MarkKinds& kinds) {
@@ -102,16 +123,11 @@ MapMarks Marks_of(const Project& project, const Session& session, const MarkKind
 }
 
 std::vector<MarkLine> Pointer_frame(const Project& p, const Session& session) {
-    const Int16 column = session.CursorCellX, row = session.CursorCellY;
-    std::vector<MarkLine> frame;
-    const bool is_on_map = column >= p.BGLOD13tlX && column <= p.BGLOD13brX &&
-                           row >= p.BGLOD13tlY && row <= p.BGLOD13brY;
-    if (!is_on_map || !Has_scale(p)) return frame;
-    Do_what_fits([&] {
-        Add_ring(frame, Cell_outline(p, column, row), Dark, 3);
-        Add_ring(frame, Cell_outline(p, column, row), Light, 1);
-    });
-    return frame;
+    return Cell_frame(p, session.CursorCellX, session.CursorCellY, {Dark, 3}, {Light, 1});
+}
+
+std::vector<MarkLine> Finding_frame(const Project& p, Int16 column, Int16 row) {
+    return Cell_frame(p, column, row, {Light, 7}, {FindingInk, 3});
 }
 
 }  // namespace tidemark

@@ -54,4 +54,7 @@ MapMarks Marks_of(const Project& project, const Session& session, const MarkKind
 // The frame of the LOD13 cell that the cursor is in; no lines when that is none of the map's.
 std::vector<MarkLine> Pointer_frame(const Project& project, const Session& session);
 
+// The frame of a cell in which the coast check has found something; no lines beside the map.
+std::vector<MarkLine> Finding_frame(const Project& project, Int16 column, Int16 row);
+
 }  // namespace tidemark

@@ -51,6 +51,8 @@ class MapView : public QWidget {
     void Reveal(CanvasPoint pixel);
 
     ShownMap Shown() const;
+    // Whether all between two corners, canvas pixels, can be seen.
+    bool Is_in_view(CanvasPoint top_left, CanvasPoint bottom_right) const;
 
     // Where the mouse and the keys arrive, and what is drawn on.
     MapCanvas& Canvas() { return *Picture2_; }

@@ -69,6 +69,12 @@ ShownMap MapView::Shown() const {
             devicePixelRatioF()};
 }
 
+bool MapView::Is_in_view(CanvasPoint top_left, CanvasPoint bottom_right) const {
+    const auto [from, to] = Canvas_in_view();
+    return from.X <= top_left.X && from.Y <= top_left.Y && bottom_right.X <= to.X &&
+           bottom_right.Y <= to.Y;
+}
+
 void MapView::Pan_to(int left, int top) {
     Move_to(qBound(0, left, HScroll1_->maximum()), qBound(0, top, VScroll1_->maximum()));
     Turn_bars();

@@ -14,7 +14,7 @@ std::uint64_t Parities(std::uint64_t word) {
     return word;
 }
 
-int Divided_up(int dividend, int divisor) {  // the divisor is positive
+std::int64_t Divided_up(std::int64_t dividend, int divisor) {  // the divisor is positive
     return dividend >= 0 ? (dividend + divisor - 1) / divisor : -(-dividend / divisor);
 }
 
@@ -39,12 +39,14 @@ CellMask::CellMask(const Outline& outline) {
 void CellMask::Toggle_right_of(CellPoint a, CellPoint b) {
     if (a.Y == b.Y) return;
     if (a.Y > b.Y) std::swap(a, b);
-    const int dx = int{b.X} - int{a.X}, dy = int{b.Y} - int{a.Y};
+    const std::int64_t dx = int{b.X} - int{a.X};
+    const int dy = int{b.Y} - int{a.Y};
     const int last = std::min<int>(b.Y, MaskSize);
     for (int row = std::max<int>(a.Y, 0); row < last; ++row) {
         // 2 column + 1 >= 2 a.X + (2 row + 1 - 2 a.Y) * dx / dy
-        const int over = (2 * (row - int{a.Y}) + 1) * dx + (2 * int{a.X} - 1) * dy;
-        const int column = std::max(Divided_up(over, 2 * dy), 0);
+        const std::int64_t over =
+            (2 * (row - int{a.Y}) + 1) * dx + (2 * std::int64_t{int{a.X}} - 1) * dy;
+        const std::int64_t column = std::max<std::int64_t>(Divided_up(over, 2 * dy), 0);
         if (column >= MaskSize) continue;
         const auto bit = static_cast<std::size_t>(column);
         rows_[static_cast<std::size_t>(row)][bit / 64] ^= std::uint64_t{1} << bit % 64;

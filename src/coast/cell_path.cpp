@@ -18,6 +18,11 @@ int Clear_of_edges(double value, int cell) {
                       edge + LastCellUnit - Margin);
 }
 
+bool Is_off_edges(int value) {
+    const int unit = value - First_unit(Cell_index(value));
+    return unit > 0 && unit < LastCellUnit;
+}
+
 // Clear of all cell edges, or exactly on the map's own edge.
 Position Placed(Position point) {
     for (int& value : point)
@@ -133,8 +138,11 @@ std::vector<Position> Cut_of_step(Position from, Position to, int aside) {
     For_each_crossing(from, to, aside, [&](const LineCrossing& crossing, bool ahead, int along) {
         const std::size_t other = 1 - crossing.Axis;
         const int near = crossing.Edge - (ahead ? 1 : 0), far = crossing.Edge - (ahead ? 0 : 1);
-        const bool from_is_on_edge = points.size() == 1 && from[crossing.Axis] == near;
-        const bool to_is_on_edge = to[crossing.Axis] == far;
+        // From a corner the way straight across would lead along the other edge.
+        const bool from_is_on_edge =
+            points.size() == 1 && from[crossing.Axis] == near && Is_off_edges(from[other]);
+        const bool to_is_on_edge = to[crossing.Axis] == far && Is_off_edges(to[other]) &&
+                                   (!from_is_on_edge || from[other] == to[other]);
         if (from_is_on_edge) along = from[other];
         if (to_is_on_edge) along = to[other];
         const Cut cut = Cut_at(crossing, ahead, along);

@@ -13,6 +13,17 @@ std::string Count_text(std::size_t count, const char* what) {
     return std::to_string(count) + " " + what;
 }
 
+// Whether an end near its cell's edge belongs on it. Where the coastline has crossed the edge right
+// there, it would only come back to that place.
+bool Belongs_on_edge(const Project& p, const SurveyedCell& cell, int end) {
+    const auto place = Place_on_edge(p, end);
+    return place &&
+           std::none_of(cell.Crossings.begin(), cell.Crossings.end(), [&](const auto& crossing) {
+               return Position{First_unit(cell.Cell.Column) + crossing.Place.X,
+                               First_unit(cell.Cell.Row) + crossing.Place.Y} == *place;
+           });
+}
+
 void Check_ends(const Project& p, const SurveyedCell& cell, Findings& findings) {
     const Finding loose_end{.Kind = FindingKind::LooseEnd, .Cell = cell.Cell};
     const std::vector<int>& ends = cell.Ends;
@@ -21,15 +32,17 @@ void Check_ends(const Project& p, const SurveyedCell& cell, Findings& findings) 
         Finding linked = loose_end;
         linked.IsError = false;
         linked.Point = ends[0];
-        linked.Text = "coastlines end in this cell at " + Point_text(ends[0]) + " and " +
-                      Point_text(ends[1]) + "; its polygons go straight from one to the other";
+        linked.Text = "coastlines end in this cell at " + Point_text(ends[0]) + " and at " +
+                      Point_text(ends[1]) +
+                      ", and its polygons go straight from one to the other; if that is wrong, "
+                      "draw what is missing";
         findings.push_back(linked);
         return;
     }
     for (const int end : ends) {
         Finding found = loose_end;
         found.Point = end;
-        if (Place_on_edge(p, end)) found.Mending = Remedy::MoveToEdge;
+        if (Belongs_on_edge(p, cell, end)) found.Mending = Remedy::MoveToEdge;
         found.Text = "a coastline ends in this cell at " + Point_text(end) +
                      (ends.size() > 1 ? ", one of " + Count_text(ends.size(), "ends") : "") +
                      ", and no polygon can be built; move the end to the cell's edge or delete it";
@@ -43,9 +56,13 @@ void Check_inner(const SurveyedCell& cell, Findings& findings) {
         .Kind = FindingKind::SeveralInside, .Cell = cell.Cell, .Point = cell.Inner.front().first};
     const auto count = cell.Inner.size();
     if (!cell.Crossings.empty() && (count > 1 || !cell.Ends.empty())) {
-        finding.Text = Count_text(count, "coastlines inside") +
-                       " a cell that another one crosses count as loose ends, and no polygon can "
-                       "be built; delete them or lead them across an edge";
+        const bool is_one = count == 1;
+        finding.Text = (is_one ? "the coastline inside this cell counts"
+                               : Count_text(count, "coastlines inside this cell count")) +
+                       " as loose ends, because another one crosses it, and no polygon can be "
+                       "built; " +
+                       (is_one ? "delete it or lead it" : "delete them or lead them") +
+                       " across an edge";
     } else if (!cell.Crossings.empty()) {
         finding.IsError = false;
         finding.Text = "the coastline from " + Point_text(cell.Inner.front().first) + " to " +
@@ -58,7 +75,8 @@ void Check_inner(const SurveyedCell& cell, Findings& findings) {
     } else if (cell.Inner.front().second - cell.Inner.front().first < 2) {
         finding.IsError = false;
         finding.Text = "the coastline at " + Point_text(finding.Point) +
-                       " encloses nothing: the polygon here is the whole cell";
+                       " encloses nothing, and the polygon here is the whole cell; add points to "
+                       "it or delete it";
     } else {
         return;
     }
@@ -74,10 +92,17 @@ void Check_amount(const SurveyedCell& cell, Findings& findings) {
         findings.push_back(finding);
     } else if (cell.Crossings.size() > MaxPolyNumber) {
         finding.Text = "coastlines cross the edges of this cell " +
-                       Count_text(cell.Crossings.size(), "times") + ", and the builder takes " +
+                       Count_text(cell.Crossings.size(), "times") +
+                       ", and no polygon can be built with more than " +
                        std::to_string(MaxPolyNumber) + "; delete some of them";
         findings.push_back(finding);
     }
+}
+
+// Whether the step that ends at the point lies on the edge of a cell with one of its ends; then its
+// crossing is there and cannot be moved aside.
+bool Is_held(const Project& p, int point) {
+    return Is_on_boundary(Place_in_cell(p, point - 1)) || Is_on_boundary(Place_in_cell(p, point));
 }
 
 // The steps that end at points a and b lead a coastline out of a cell and back into it, or the
@@ -87,28 +112,55 @@ bool Is_needle(const Project& p, const CoastSurvey& survey, int a, int b) {
     const bool is_one_coastline = std::any_of(
         coastlines.begin(), coastlines.end(),
         [&](const Segment& coastline) { return coastline.First < a && b <= coastline.Last; });
-    if (!is_one_coastline || Cell_of_point(p, a - 1) != Cell_of_point(p, b)) return false;
+    if (!is_one_coastline || Cell_of_point(p, a - 1) != Cell_of_point(p, b) || Is_held(p, a) ||
+        Is_held(p, b))
+        return false;
     for (int i = a; i < b; ++i)
         if (Cell_of_point(p, i) != Cell_of_point(p, a)) return false;
     return true;
 }
 
+bool Is_itself(const Project& p, const BoundaryPoint& crossing) {
+    return Place_in_cell(p, crossing.Origin) == crossing.Place;
+}
+
+// Where coastlines cross the cell's edge; but one that starts on the edge and leaves the cell right
+// there has nothing in it, and does no harm where no other crosses at that place.
+std::vector<BoundaryPoint> Passages(const Project& p, const SurveyedCell& cell) {
+    std::vector<BoundaryPoint> passages;
+    for (const BoundaryPoint& crossing : cell.Crossings) {
+        const auto is_here = [&](const BoundaryPoint& other) {
+            return other.Place == crossing.Place;
+        };
+        const bool leaves_at_once =
+            !passages.empty() && is_here(passages.back()) &&
+            passages.back().Origin + 1 == crossing.Origin &&
+            p.VTPSegStart(passages.back().Origin) &&
+            std::count_if(cell.Crossings.begin(), cell.Crossings.end(), is_here) == 2;
+        if (leaves_at_once)
+            passages.pop_back();
+        else
+            passages.push_back(crossing);
+    }
+    return passages;
+}
+
 void Check_same_places(const Project& p, const CoastSurvey& survey, const SurveyedCell& cell,
                        Findings& findings) {
-    for (auto a = cell.Crossings.begin(); a != cell.Crossings.end(); ++a) {
-        const auto found =
-            std::find_if(a + 1, cell.Crossings.end(),
-                         [&](const BoundaryPoint& other) { return other.Place == a->Place; });
-        if (found == cell.Crossings.end()) continue;
-        const int from = std::min(a->Origin, found->Origin);
-        const int to = std::max(a->Origin, found->Origin);
+    const auto text = [&](const BoundaryPoint& crossing) {
+        return (Is_itself(p, crossing) ? "at " : "before ") + Point_text(crossing.Origin);
+    };
+    const std::vector<BoundaryPoint> passages = Passages(p, cell);
+    for (auto a = passages.begin(); a != passages.end(); ++a) {
+        const auto found = std::find_if(a + 1, passages.end(), [&](const BoundaryPoint& other) {
+            return other.Place == a->Place;
+        });
+        if (found == passages.end()) continue;
+        const auto [from, to] = std::minmax(a->Origin, found->Origin);
         Finding finding{.Kind = FindingKind::Segment,
                         .Cell = cell.Cell,
-                        .Text =
-                            "coastlines cross the edge of this cell twice at one place, "
-                            "before " +
-                            Point_text(from) + " and before " + Point_text(to) +
-                            "; move one of them aside",
+                        .Text = "coastlines cross this cell's edge twice at the same place, " +
+                                text(*a) + " and " + text(*found) + "; move one of them aside",
                         .Point = from,
                         .Other = to};
         if (Is_needle(p, survey, from, to)) {
@@ -135,7 +187,9 @@ void Check_cells(const Project& p, const CoastSurvey& survey, Findings& findings
         if (!cell.Warning.empty() && std::none_of(findings.begin(), findings.end(), is_here))
             findings.push_back({.Kind = FindingKind::TooMuch,
                                 .Cell = cell.Cell,
-                                .Text = "the polygon builder says: " + cell.Warning});
+                                .Text = "a polygon that is clicked here is refused: \"" +
+                                        cell.Warning +
+                                        "\"; look up this message in the Instructions"});
     }
 }
 

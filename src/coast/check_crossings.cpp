@@ -73,7 +73,7 @@ class EdgeCheck {
                    " crosses the edge to " + Text_of(other_) +
                    " at a slant, and the polygons miss each other by " +
                    std::to_string(std::abs(Along(a) - Along(b))) +
-                   " units; put a point on either side of the edge",
+                   " units; put a point on each side of the edge",
                Remedy::CutStep);
     }
 
@@ -89,8 +89,7 @@ class EdgeCheck {
         Report(cell, point,
                "the coastline crosses the edge to " + Text_of(other) + " before " +
                    Point_text(point) +
-                   ", but is not seen there; put a point on either side "
-                   "of the edge",
+                   ", which does not see it; put a point on each side of the edge",
                Is_step(point) ? Remedy::CutStep : Remedy::None);
     }
 
@@ -112,10 +111,13 @@ class EdgeCheck {
             return i >= 1 && (p_.VTPSegStart(i) || p_.VTPSegEnd(i)) &&
                    Is_on_boundary(Place_in_cell(p_, i));
         };
-        return is_end(point) || (Is_step(point) && is_end(point - 1));
+        return is_end(point) || (Is_step(point) && is_end(point - 1)) ||
+               (Is_step(point + 1) && is_end(point + 1));
     }
 
-    bool Is_step(int point) const { return point > 1 && !p_.VTPSegStart(point); }
+    bool Is_step(int point) const {
+        return point > 1 && point <= p_.VTPCount && !p_.VTPSegStart(point);
+    }
 
     void Report(LOD13Cell cell, int point, const std::string& text, Remedy remedy) {
         Finding finding{.Kind = FindingKind::Neighbours,

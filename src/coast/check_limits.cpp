@@ -20,7 +20,7 @@ void Check_cell(const Project& p, LOD13Cell cell, Finding finding, Findings& fin
     finding.IsError = !is_in_world;
     finding.Cell = cell;
     finding.Text += is_in_world ? " lies outside the map" : " lies outside the cells 0 to 31";
-    finding.Text += "; delete it or move it back";
+    finding.Text += finding.Point > 0 ? "; delete it or move it back" : "; delete it";
     findings.push_back(std::move(finding));
 }
 

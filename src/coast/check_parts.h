@@ -1,6 +1,7 @@
 // The parts of the coast check; each appends what it finds.
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "coast/coast_survey.h"
@@ -46,6 +47,18 @@ inline Position VTP_position(const Project& p, int point) {
 inline LOD13Cell Cell_of_point(const Project& p, int point) {
     const auto [column, row] = Cell_of(VTP_position(p, point));
     return {column, row};
+}
+
+inline LOD13Cell Cell_of_polygon(const Project& p, int polygon) {
+    return {p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)};
+}
+
+// The numbers of the polygons, by their cells.
+inline std::map<LOD13Cell, std::vector<int>> Polygons_by_cell(const Project& p) {
+    std::map<LOD13Cell, std::vector<int>> cells;
+    for (int polygon = 1; polygon <= p.LWMCount; ++polygon)
+        cells[Cell_of_polygon(p, polygon)].push_back(polygon);
+    return cells;
 }
 
 // In cell units.

@@ -16,7 +16,7 @@ void Check_step(const Project& p, int point, Findings& findings) {
                                 .Cell = cell,
                                 .Text = "the step from " + Point_text(point - 1) + " to " +
                                         Point_text(point) + " skips cell " + Text_of(cell) +
-                                        ", which is built without it; insert a point there",
+                                        ", which is built without it; put a point there",
                                 .Point = point,
                                 .Mending = Remedy::CutStep});
 }
@@ -58,10 +58,17 @@ void Check_edge_point(const Project& p, const Segment& coastline, int point, Fin
         return;
     findings.push_back({.Kind = FindingKind::Neighbours,
                         .Cell = cell,
-                        .Text = Point_text(point) + " is on the edge of its cell, where the " +
-                                "coastline does not cross it; move the point into the cell",
+                        .Text = Point_text(point) + " lies on the cell's edge, but the " +
+                                "coastline does not cross it there; move the point into the cell",
                         .Point = point,
                         .Mending = Remedy::MoveInside});
+}
+
+// In a corner of its cell on the map's own edge: there an end belongs further along the edge.
+bool Is_in_corner_of_map(const Project& p, int point) {
+    const auto [x, y] = VTP_position(p, point);
+    return Is_corner(Place_in_cell(p, point)) &&
+           (x == FirstVTP || x == LastVTP || y == FirstVTP || y == LastVTP);
 }
 
 // Whether a coastline ends at the place, coming from inside the cell.
@@ -81,9 +88,7 @@ std::vector<Position> Bad_starts(const Project& p, const CoastSurvey& survey) {
         const int first = coastline.First;
         const CellPoint place = Place_in_cell(p, first);
         if (!Is_on_boundary(place) || first == coastline.Last) continue;
-        if (Is_corner(place) ||
-            Is_towards(place, Cell_of_point(p, first), Cell_of_point(p, first + 1)) ||
-            Ends_from_inside(p, survey, VTP_position(p, first)))
+        if (Is_in_corner_of_map(p, first) || Ends_from_inside(p, survey, VTP_position(p, first)))
             places.push_back(VTP_position(p, first));
     }
     return places;
@@ -102,8 +107,8 @@ void Check_last_step(const Project& p, const Segment& coastline, Findings& findi
                         .Cell = cell,
                         .Text = "the coastline that ends on the edge of this cell at " +
                                 Point_text(last) +
-                                " has no point inside, and the cell is built without it; insert "
-                                "a point there",
+                                " has no point inside, and the cell is built without it; put a "
+                                "point there",
                         .Point = last,
                         .Mending = Remedy::CutStep});
 }
@@ -116,13 +121,13 @@ void Check_ends_on_edges(const Project& p, const CoastSurvey& survey, Findings& 
             const LOD13Cell cell = Cell_of_point(p, end);
             const auto found =
                 std::find(bad_starts.begin(), bad_starts.end(), VTP_position(p, end));
-            const bool is_bad = found != bad_starts.end() || Is_corner(Place_in_cell(p, end));
+            const bool is_bad = found != bad_starts.end() || Is_in_corner_of_map(p, end);
             if (!is_bad || !Is_in_LOD8_cell(cell)) continue;
             findings.push_back({.Kind = FindingKind::Neighbours,
                                 .Cell = cell,
                                 .Text = Point_text(end) +
-                                        " is on the edge of its cell, where no coastline may "
-                                        "begin or end like this; move the point into the cell",
+                                        " lies on the cell's edge, where another end or a corner "
+                                        "is in the way; move the point into the cell",
                                 .Point = end,
                                 .Mending = Remedy::MoveInside});
         }
@@ -134,7 +139,7 @@ void Check_segment(const Project& p, const Segment& segment, Findings& findings)
         findings.push_back({.Kind = FindingKind::Segment,
                             .Cell = cell,
                             .Text = "the segment at " + Point_text(segment.First) +
-                                    " has no other point, and the VTP file is refused; delete it "
+                                    " has no other point, and no VTP file can be saved; delete it "
                                     "or add a point to it",
                             .Point = segment.First});
     if (!Find_mode(segment.Mode, Adds::Point))
@@ -143,18 +148,22 @@ void Check_segment(const Project& p, const Segment& segment, Findings& findings)
                             .Text = "the segment at " + Point_text(segment.First) +
                                     " has the unknown drawing mode " +
                                     std::to_string(segment.Mode) +
-                                    ", and the VTP file is refused; delete it and draw it again",
+                                    ", and no VTP file can be saved; delete it and draw it again",
                             .Point = segment.First});
 }
 
 void Check_repeated_point(const Project& p, const Segment& segment, int point, Findings& findings) {
-    if (VTP_position(p, point - 1) != VTP_position(p, point)) return;
-    const bool is_whole_segment = segment.Last - segment.First == 1;
+    const auto is_here = [&](int other) {
+        return VTP_position(p, other) == VTP_position(p, point);
+    };
+    if (!is_here(point - 1)) return;
+    bool is_whole_segment = true;  // of which one point would be left
+    for (int i = segment.First; i <= segment.Last; ++i) is_whole_segment &= is_here(i);
     findings.push_back({.Kind = FindingKind::Segment,
                         .IsError = Is_coastline(segment.Mode),
                         .Cell = Cell_of_point(p, point),
-                        .Text = Point_text(point - 1) + " and " + Point_text(point) +
-                                " share a place; " +
+                        .Text = "points " + std::to_string(point - 1) + " and " +
+                                std::to_string(point) + " are at the same place; " +
                                 (is_whole_segment ? "move one of them" : "delete one of them"),
                         .Point = point,
                         .Mending = is_whole_segment ? Remedy::None : Remedy::DropPoint});

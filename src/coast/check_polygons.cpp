@@ -12,10 +12,6 @@ namespace tidemark {
 
 namespace {
 
-LOD13Cell Cell_of_polygon(const Project& p, int polygon) {
-    return {p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)};
-}
-
 std::string Polygon_text(int polygon) {
     return "polygon " + std::to_string(polygon);
 }
@@ -27,7 +23,8 @@ Finding About(const Project& p, int polygon, std::string text) {
             .Polygon = polygon};
 }
 
-void Check_outline(const Project& p, const CoastSurvey& survey, int polygon, Findings& findings) {
+void Check_outline(const Project& p, int polygon, const std::vector<Outline>& candidates,
+                   bool can_be_rebuilt, Findings& findings) {
     const Outline outline = Stored_outline(p, polygon);
     if (outline.size() < 3) {
         findings.push_back(About(p, polygon,
@@ -35,22 +32,30 @@ void Check_outline(const Project& p, const CoastSurvey& survey, int polygon, Fin
                                                          "it and click it again"));
         return;
     }
-    const std::vector<Outline> candidates = survey.Candidates(Cell_of_polygon(p, polygon));
     if (std::any_of(candidates.begin(), candidates.end(),
                     [&](const Outline& piece) { return Is_built_as(outline, piece); }))
         return;
-    Finding found = About(p, polygon, Polygon_text(polygon) + " is not what the coastlines make ");
+    Finding found =
+        About(p, polygon, Polygon_text(polygon) + " is not what the coastlines make here");
     if (candidates.empty()) {
-        found.Text += "here, and none can be built now; mend the coastlines first";
-    } else if (Rebuilt(outline, candidates)) {
-        found.Text += "here now; delete it and click it again";
+        found.Text += ", and none can be built now; mend the coastlines first";
+    } else if (can_be_rebuilt) {
+        found.Text += " now; delete it and click it again";
         found.Mending = Remedy::Rebuild;
     } else {
         found.Text +=
-            "here now, and it lies on several pieces of the cell; delete it and click "
-            "the right one";
+            " now, and it is not clear which piece it should be; delete it and click the right one";
     }
     findings.push_back(std::move(found));
+}
+
+void Check_outlines(const Project& p, const std::vector<int>& polygons,
+                    const std::vector<Outline>& candidates, Findings& findings) {
+    std::vector<Outline> outlines;
+    for (const int polygon : polygons) outlines.push_back(Stored_outline(p, polygon));
+    const auto rebuilt = Rebuilt_together(outlines, candidates);
+    for (std::size_t i = 0; i < polygons.size(); ++i)
+        Check_outline(p, polygons[i], candidates, rebuilt[i].has_value(), findings);
 }
 
 // The polygons of one cell against each other.
@@ -61,10 +66,11 @@ void Check_overlaps(const Project& p, const std::vector<int>& polygons, Findings
         for (std::size_t k = 0; k + 1 < masks.size(); ++k) {
             const int common = masks[k].Common_area(masks.back());
             if (common == 0) continue;
-            findings.push_back(
-                About(p, polygon,
-                      Polygon_text(polygon) + " overlaps " + Polygon_text(polygons[k]) + " by " +
-                          std::to_string(common) + " square units; delete one of them"));
+            findings.push_back(About(p, polygon,
+                                     Polygon_text(polygon) + " overlaps " +
+                                         Polygon_text(polygons[k]) + " by " +
+                                         std::to_string(common) + " square unit" +
+                                         (common == 1 ? "" : "s") + "; delete one of them"));
         }
     }
 }
@@ -100,7 +106,7 @@ void Add_shore(Shores& shores, const Outline& outline, bool is_water) {
             if (!Is_on(a, side) || !Is_on(b, side)) continue;
             const bool is_upright = side == EdgeType::Left || side == EdgeType::Right;
             const auto [low, high] =
-                is_upright ? std::minmax<int>(a.Y, b.Y) : std::minmax<int>(a.X, b.X);
+                is_upright ? std::minmax({int{a.Y}, int{b.Y}}) : std::minmax({int{a.X}, int{b.X}});
             auto& shore = (is_water ? shores.Water : shores.Land)[Number_of(side)];
             for (int unit = std::max(low, 0); unit < std::min(high, LastCellUnit); ++unit)
                 shore.set(static_cast<std::size_t>(unit));
@@ -118,15 +124,11 @@ int Units_of_disagreement(const Shores& here, EdgeType side, const Shores& there
 }  // namespace
 
 void Check_polygons(const Project& p, const CoastSurvey& survey, Findings& findings) {
-    std::map<LOD13Cell, std::vector<int>> cells;
-    for (int polygon = 1; polygon <= p.LWMCount; ++polygon) {
-        const LOD13Cell cell = Cell_of_polygon(p, polygon);
+    for (const auto& [cell, polygons] : Polygons_by_cell(p)) {
         if (!Is_in_LOD8_cell(cell)) continue;
-        Check_outline(p, survey, polygon, findings);
-        cells[cell].push_back(polygon);
-    }
-    for (const auto& [cell, polygons] : cells)
+        Check_outlines(p, polygons, survey.Candidates(cell), findings);
         if (polygons.size() > 1) Check_overlaps(p, polygons, findings);
+    }
 }
 
 void Check_common_edges(const Project& p, Findings& findings) {

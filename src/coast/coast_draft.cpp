@@ -15,9 +15,6 @@ namespace {
 
 constexpr double Endless = std::numeric_limits<double>::infinity();
 
-// Where a point that is farther from the chord than this is kept, the line moves on the map.
-constexpr double LeastGain = 0.5;
-
 // Keeping more points can make lines touch elsewhere; more often than this it does not go on.
 constexpr int MaxRounds = 40;
 
@@ -37,6 +34,14 @@ bool Is_in_box(Position a, Position b, Position place) {
 
 bool Lies_on(Position place, Position a, Position b) {
     return Is_in_box(a, b, place) && Turn(a, b, place) == 0;
+}
+
+bool Are_apart(Position a, Position b, Position c, Position d) {
+    for (const std::size_t axis : {0U, 1U})
+        if (std::max(a[axis], b[axis]) < std::min(c[axis], d[axis]) ||
+            std::max(c[axis], d[axis]) < std::min(a[axis], b[axis]))
+            return true;
+    return false;
 }
 
 bool Touch(Position a, Position b, Position c, Position d) {
@@ -174,6 +179,7 @@ std::vector<CoastDraft::Conflict> CoastDraft::Conflicts() const {
         return a.Ends_chord ? b.Chord == next : b.Chord == a.Chord;
     };
     const auto conflict = [&](const Step& a, const Step& b) {
+        if (Are_apart(a.From, a.To, b.From, b.To)) return false;
         // Steps that follow one another share a point, and no more unless the line turns back.
         if (follows(a, b)) return Lies_on(b.To, a.From, a.To) || Lies_on(a.From, b.From, b.To);
         if (follows(b, a)) return Lies_on(a.To, b.From, b.To) || Lies_on(b.From, a.From, a.To);
@@ -284,11 +290,11 @@ double CoastDraft::Deviation(std::size_t number) const {
         const std::size_t last =
             chord + 1 < kept.size() ? kept[chord + 1] : points.size() + kept[0];
         for (std::size_t i = kept[chord]; i <= last; ++i)
-            most = std::max(most, Distance_to_segment(points[i % points.size()], a, b));
+            most = std::max(most, Square_to_segment(points[i % points.size()], a, b));
         for (const Position& cut : Cut_at_cell_edges({placed[chord], placed[chord + 1]}).Points)
-            most = std::max(most, Distance_to_segment({double(cut[0]), double(cut[1])}, a, b));
+            most = std::max(most, Square_to_segment({double(cut[0]), double(cut[1])}, a, b));
     }
-    return most;
+    return std::sqrt(most) + (lines_[number].LeftOut ? LeastGain : 0);
 }
 
 }  // namespace tidemark

@@ -17,7 +17,11 @@ namespace tidemark {
 struct DraftLine {
     MapLine Line;
     std::vector<double> Significances;
+    bool LeftOut = false;  // points of less significance than LeastGain are no more there
 };
+
+// VTP units: a point that is nearer to the line without it changes nothing on the map.
+inline constexpr double LeastGain = 0.5;
 
 // The map, in VTP units of its first and its last column and row.
 struct MapUnits {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <functional>
 #include <map>
 
 #include "coast/coast_draft.h"
@@ -65,6 +66,21 @@ void Thin(std::vector<MapPoint>& points) {
     points.resize(count);
 }
 
+// Without the points that no tolerance keeps: the line without them is off by less than LeastGain.
+void Leave_out_least(DraftLine& draft) {
+    std::vector<MapPoint>& points = draft.Line.Points;
+    std::vector<double>& significances = draft.Significances;
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (significances[i] <= LeastGain) continue;
+        points[count] = points[i];
+        significances[count++] = significances[i];
+    }
+    draft.LeftOut = count < points.size();
+    points.resize(count);
+    significances.resize(count);
+}
+
 std::vector<DraftLine> Draft_lines(const Project& p, std::span<const CoastLine> lines,
                                    bool reverse) {
     std::vector<MapLine> pieces;
@@ -76,7 +92,8 @@ std::vector<DraftLine> Draft_lines(const Project& p, std::span<const CoastLine> 
         Thin(line.Points);
         if (line.Points.size() < (line.IsRing ? 3U : 2U)) continue;
         std::vector<double> significances = Significances(line.Points, line.IsRing);
-        drafts.push_back({std::move(line), std::move(significances)});
+        drafts.push_back({std::move(line), std::move(significances), false});
+        Leave_out_least(drafts.back());
     }
     return drafts;
 }
@@ -184,6 +201,19 @@ LaidCoast Laid_at(const std::vector<DraftLine>& lines, const MapUnits& map, doub
     return coast;
 }
 
+// With less more than the wanted number of points are kept, not counting those that cell edges ask
+// for.
+double Least_tolerance(const std::vector<DraftLine>& lines, int most_points) {
+    std::vector<double> all;
+    for (const DraftLine& line : lines)
+        all.insert(all.end(), line.Significances.begin(), line.Significances.end());
+    const auto wanted = static_cast<std::size_t>(std::max(most_points, 0));
+    if (all.size() <= wanted) return 0;
+    const auto nth = all.begin() + static_cast<std::ptrdiff_t>(wanted);
+    std::nth_element(all.begin(), nth, all.end(), std::greater<>());
+    return std::isinf(*nth) ? 0 : *nth;
+}
+
 // "3" or, below ten, "3.5".
 std::string Short_number(double value) {
     if (value >= 10) return std::to_string(std::lround(value));
@@ -215,7 +245,9 @@ LaidCoast Lay_coast(const Project& project, std::span<const CoastLine> lines,
                     const LayOptions& options) {
     const std::vector<DraftLine> drafts = Draft_lines(project, lines, options.Reverse);
     const MapUnits map = Units_of(project);
-    double low = options.Tolerance, high = low;
+    double low = std::max(std::max(options.Tolerance, LeastGain),
+                          Least_tolerance(drafts, options.MostPoints));
+    double high = low;
     LaidCoast laid = Laid_at(drafts, map, high);
     while (laid.Points > options.MostPoints && high < MaxTolerance) {
         low = high;

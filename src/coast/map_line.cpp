@@ -142,12 +142,4 @@ std::vector<MapLine> Joined(std::vector<MapLine> lines) {
     return Joining(std::move(lines)).All();
 }
 
-double Distance_to_segment(MapPoint place, MapPoint a, MapPoint b) {
-    const double dx = b.X - a.X, dy = b.Y - a.Y, length = dx * dx + dy * dy;
-    double part = 0;
-    if (length > 0)
-        part = std::clamp(((place.X - a.X) * dx + (place.Y - a.Y) * dy) / length, 0.0, 1.0);
-    return std::hypot(place.X - (a.X + part * dx), place.Y - (a.Y + part * dy));
-}
-
 }  // namespace tidemark

@@ -1,6 +1,7 @@
 // Lines on the way from a file into the map: fractions of VTP units, clipped and joined.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,6 +37,13 @@ std::vector<MapLine> Clipped(const MapLine& line, const MapRectangle& rectangle)
 // rings. Lines whose land side is not known are turned round for it where needed.
 std::vector<MapLine> Joined(std::vector<MapLine> lines);
 
-double Distance_to_segment(MapPoint place, MapPoint a, MapPoint b);
+// The square of the distance.
+inline double Square_to_segment(MapPoint place, MapPoint a, MapPoint b) {
+    const double dx = b.X - a.X, dy = b.Y - a.Y, length = dx * dx + dy * dy;
+    const double along = (place.X - a.X) * dx + (place.Y - a.Y) * dy;
+    const double part = length > 0 ? std::clamp(along / length, 0.0, 1.0) : 0;
+    const double x = place.X - (a.X + part * dx), y = place.Y - (a.Y + part * dy);
+    return x * x + y * y;
+}
 
 }  // namespace tidemark

@@ -73,12 +73,22 @@ Position Moved_inside(Position place) {
     return placed != place ? placed : Off_cell_edges(place);
 }
 
-// The points of the project as the work leaves them.
-std::vector<VTPRecord> Mended_points(const Project& p, const Work& work) {
-    std::vector<VTPRecord> points;
+// The points of the project as the work leaves them, and where the followed one is then; one that
+// is dropped shares its place with the one before it.
+struct MendedPoints {
+    std::vector<VTPRecord> Points;
+    int Followed;
+};
+
+MendedPoints Mended_points(const Project& p, const Work& work, int followed) {
+    MendedPoints mended{{}, followed};
+    std::vector<VTPRecord>& points = mended.Points;
     for (int i = 1; i <= p.VTPCount; ++i) {
         VTPRecord point = PointTable::Get(p, i);
-        if (work.Drop.contains(i)) continue;
+        if (work.Drop.contains(i)) {
+            if (i == followed) mended.Followed = static_cast<int>(points.size());
+            continue;
+        }
         if (work.MoveInside.contains(i)) point = At_place(point, Moved_inside(Place_of(point)));
         if (work.MoveToEdge.contains(i))
             point = At_place(point, Place_on_edge(p, i).value_or(Place_of(point)));
@@ -91,8 +101,9 @@ std::vector<VTPRecord> Mended_points(const Project& p, const Work& work) {
                 points.push_back(At_place(between, place));
         }
         points.push_back(point);
+        if (i == followed) mended.Followed = static_cast<int>(points.size());
     }
-    return points;
+    return mended;
 }
 
 void Store_points(Project& p, const std::vector<VTPRecord>& points) {
@@ -102,25 +113,31 @@ void Store_points(Project& p, const std::vector<VTPRecord>& points) {
     Repair_segments(p);
 }
 
-void Rebuild_polygons(Project& p, const std::set<int>& polygons) {
-    if (polygons.empty()) return;
+void Rebuild_polygons(Project& p, const std::set<int>& wanted) {
+    if (wanted.empty()) return;
     const CoastSurvey survey(p);
-    for (const int polygon : polygons) {
-        const LOD13Cell cell{p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)};
-        const auto piece = Rebuilt(Stored_outline(p, polygon), survey.Candidates(cell));
-        if (!piece) continue;
-        Store_polygon(p, polygon, cell.Column, cell.Row, {p.LWMType(polygon), p.LWMHeight(polygon)},
-                      *piece);
+    for (const auto& [cell, polygons] : Polygons_by_cell(p)) {
+        const auto is_wanted = [&](int polygon) { return wanted.contains(polygon); };
+        if (std::none_of(polygons.begin(), polygons.end(), is_wanted)) continue;
+        std::vector<Outline> outlines;
+        for (const int polygon : polygons) outlines.push_back(Stored_outline(p, polygon));
+        const auto rebuilt = Rebuilt_together(outlines, survey.Candidates(cell));
+        for (std::size_t i = 0; i < polygons.size(); ++i) {
+            const int polygon = polygons[i];
+            if (!rebuilt[i] || !is_wanted(polygon)) continue;
+            Store_polygon(p, polygon, cell.Column, cell.Row,
+                          {p.LWMType(polygon), p.LWMHeight(polygon)}, *rebuilt[i]);
+        }
     }
 }
 
 // Why there is no room for so many points; empty: there is.
-std::string No_room_for(std::size_t points, const Project& p) {
+std::string No_room_for(int points, const Project& p) {
     if (points <= MaxVTPCount) return "";
-    return "Nothing was mended: " +
-           std::to_string(points - static_cast<std::size_t>(int{p.VTPCount})) +
-           " more points are needed, and " + std::to_string(MaxVTPCount - p.VTPCount) +
-           " are free.";
+    const int needed = points - p.VTPCount, free = MaxVTPCount - p.VTPCount;
+    return "Nothing was mended: " + std::to_string(needed) +
+           (needed == 1 ? " more point is needed, and " : " more points are needed, and ") +
+           std::to_string(free) + (free == 1 ? " is free." : " are free.");
 }
 
 // An end of a coastline on the other side of the edge that this one is to meet: at most
@@ -163,27 +180,30 @@ std::optional<Position> Place_on_edge(const Project& p, int end) {
     return nearest;
 }
 
-MendResult Mend(Project& project, std::span<const Finding> findings) {
+MendResult Mend(Project& project, std::span<const Finding> findings, int followed) {
     const Work work(findings);
-    const std::vector<VTPRecord> points = Mended_points(project, work);
-    if (std::string refusal = No_room_for(points.size(), project); !refusal.empty())
-        return {0, std::move(refusal)};
-    Store_points(project, points);
+    const MendedPoints mended = Mended_points(project, work, followed);
+    if (std::string refusal = No_room_for(static_cast<int>(mended.Points.size()), project);
+        !refusal.empty())
+        return {0, std::move(refusal), followed};
+    Store_points(project, mended.Points);
     Rebuild_polygons(project, work.Rebuild);
     const auto has_remedy = [](const Finding& f) { return f.Mending != Remedy::None; };
-    return {static_cast<int>(std::count_if(findings.begin(), findings.end(), has_remedy)), ""};
+    return {static_cast<int>(std::count_if(findings.begin(), findings.end(), has_remedy)), "",
+            mended.Followed};
 }
 
-MendResult Mend_all(Project& project) {
-    MendResult all;
+MendResult Mend_all(Project& project, int followed) {
+    MendResult all{0, "", followed};
     Findings findings = Check_coast(project);
     for (int round = 0; round < MaxRounds && Has_remedy(findings); ++round) {
-        const MendResult result = Mend(project, findings);
+        const MendResult result = Mend(project, findings, all.Followed);
         if (!result.Refusal.empty()) {
             if (all.Mended == 0) all.Refusal = result.Refusal;
             break;
         }
         all.Mended += result.Mended;
+        all.Followed = result.Followed;
         findings = Check_coast(project);
     }
     return all;

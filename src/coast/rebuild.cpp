@@ -1,6 +1,7 @@
 #include "coast/rebuild.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 #include "coast/cell_mask.h"
@@ -11,11 +12,11 @@ namespace tidemark {
 namespace {
 
 // In square units, and whichever way round the outline runs.
-int Twice_area(const Outline& outline) {
-    int sum = 0;
+std::int64_t Twice_area(const Outline& outline) {
+    std::int64_t sum = 0;
     for (std::size_t i = 0; i < outline.size(); ++i) {
         const CellPoint a = outline[i], b = outline[i + 1 == outline.size() ? 0 : i + 1];
-        sum += int{a.X} * int{b.Y} - int{b.X} * int{a.Y};
+        sum += std::int64_t{int{a.X}} * int{b.Y} - std::int64_t{int{b.X}} * int{a.Y};
     }
     return std::abs(sum);
 }
@@ -23,7 +24,8 @@ int Twice_area(const Outline& outline) {
 // Half of the one or half of the other.
 bool Has_much_in_common(const Outline& a, const Outline& b) {
     constexpr int twice_cell = 2 * MaskSize * MaskSize;
-    const int area_a = Twice_area(a), area_b = Twice_area(b), least = std::min(area_a, area_b);
+    const std::int64_t area_a = Twice_area(a), area_b = Twice_area(b);
+    const std::int64_t least = std::min(area_a, area_b);
     const bool must_overlap = 2 * (area_a + area_b - twice_cell) >= least;
     return must_overlap || 4 * CellMask(a).Common_area(CellMask(b)) >= least;
 }
@@ -53,6 +55,30 @@ std::optional<Outline> Rebuilt(const Outline& polygon, const std::vector<Outline
         found = piece;
     }
     return found;
+}
+
+std::vector<std::optional<Outline>> Rebuilt_together(const std::vector<Outline>& polygons,
+                                                     const std::vector<Outline>& candidates) {
+    std::vector<std::optional<Outline>> pieces;
+    std::vector<bool> is_right;
+    for (const Outline& polygon : polygons) {
+        const auto right =
+            std::find_if(candidates.begin(), candidates.end(),
+                         [&](const Outline& piece) { return Is_built_as(polygon, piece); });
+        is_right.push_back(right != candidates.end());
+        if (is_right.back())
+            pieces.emplace_back(*right);
+        else
+            pieces.push_back(polygon.size() < 3 ? std::nullopt : Rebuilt(polygon, candidates));
+    }
+    std::vector<std::optional<Outline>> given;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        const auto takers = std::count_if(pieces.begin(), pieces.end(), [&](const auto& piece) {
+            return piece && pieces[i] && Same_outline(*piece, *pieces[i]);
+        });
+        given.push_back(is_right[i] || takers == 1 ? pieces[i] : std::nullopt);
+    }
+    return given;
 }
 
 }  // namespace tidemark

@@ -17,4 +17,9 @@ bool Is_built_as(const Outline& polygon, const Outline& piece);
 // say.
 std::optional<Outline> Rebuilt(const Outline& polygon, const std::vector<Outline>& candidates);
 
+// The same for all polygons of one cell, in their order. No piece is given to two of them: a
+// polygon that is built as it keeps it, and of several that are not, none gets it.
+std::vector<std::optional<Outline>> Rebuilt_together(const std::vector<Outline>& polygons,
+                                                     const std::vector<Outline>& candidates);
+
 }  // namespace tidemark

@@ -49,12 +49,13 @@ std::vector<double> Significances(std::span<const MapPoint> points, bool is_ring
         double greatest = -1;
         std::size_t middle = first;
         for (std::size_t i = first + 1; i < end; ++i) {
-            const double distance = Distance_to_segment(points[i], at(first), at(end));
+            const double distance = Square_to_segment(points[i], at(first), at(end));
             if (distance <= greatest) continue;
             greatest = distance;
             middle = i;
         }
         if (middle == first) continue;
+        greatest = std::sqrt(greatest);
         // Never more than the points have without which this one would not be asked for.
         significances[middle] = std::min(greatest, most);
         stretches.push_back({first, middle, significances[middle]});

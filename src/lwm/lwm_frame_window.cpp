@@ -48,13 +48,14 @@ void LWMFrame::Mode_chosen(const DrawingMode& mode) {
     if (mode.Code == LandPolygon) ConformOption_->setChecked(true);
 }
 
-void LWMFrame::Add_LWM_Poly() {
+LWMPolyResult LWMFrame::Add_LWM_Poly() {
     const HeightChoice choice =
         ConformOption_->isChecked() ? HeightChoice::Conform : HeightChoice::Explicit;
-    const LWMPolyResult result =
+    LWMPolyResult result =
         Click_polygon(document_, session_, choice, From_qt(PolyHeightText_->text()), messages_);
     PolyHeightText_->setText(To_qt(result.HeightText));
     Q_EMIT Remarked(To_qt(result.StatusLine));
+    return result;
 }
 
 void LWMFrame::Refresh() {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include "lwm/polygon_builder.h"
 #include "model/document.h"
 #include "model/drawing_modes.h"
 #include "platform/messages.h"
@@ -22,7 +23,7 @@ class LWMFrame : public QGroupBox {
     void Mode_chosen(const DrawingMode& mode);
 
     // Builds the polygon of the cursor's cell around the click, of the type of the last click.
-    void Add_LWM_Poly();
+    LWMPolyResult Add_LWM_Poly();
     // Shows the project's polygons and the selection as they are now.
     void Refresh();
 

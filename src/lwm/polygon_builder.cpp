@@ -148,8 +148,9 @@ bool Surrounds(const Outline& outline, CellPoint place) {
 LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,
                            HeightChoice choice, std::string_view height_text) {
     auto [text, height] = Take_height(choice, height_text, messages);
-    LWMPolyResult result{std::move(text), false, ""};
+    LWMPolyResult result{std::move(text), false, "", false};
     if (!height) return result;
+    result.IsRefusedByCoast = true;  // until a piece of the cell is found
     const std::vector<Outline> candidates = Candidate_polygons(project, session, messages);
     if (candidates.empty()) return result;
 
@@ -162,6 +163,7 @@ LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& m
         return result;
     }
     const Outline& outline = candidates[static_cast<std::size_t>(*best - 1)];
+    result.IsRefusedByCoast = !Is_in_cell(outline);
     if (!Check_outline(outline, project, messages)) return result;
     Store_polygon(project, project.LWMCount + 1, session.CursorCellX, session.CursorCellY,
                   {session.DrawMode, *height}, outline);

@@ -18,7 +18,8 @@ enum class HeightChoice { Explicit, Conform };
 struct LWMPolyResult {
     std::string HeightText;  // as the height box reads afterwards
     bool Added = false;
-    std::string StatusLine;  // a quiet remark on the polygon that was added; empty: none
+    std::string StatusLine;         // a quiet remark on the polygon that was added; empty: none
+    bool IsRefusedByCoast = false;  // the coastlines of the cell stood in the way
 };
 
 // Cuts the cursor's cell along its coastlines and appends the piece around the click as a polygon

@@ -95,4 +95,22 @@ TEST_F(CompanionTest, NoFileIsWrittenTwice) {
     EXPECT_EQ(files_.Content["to/both.asm"], VTP_file_bytes(river_));
 }
 
+TEST_F(CompanionTest, ErrorsOfTheCoastAreToldAndKeepNoFileFromBeingWritten) {
+    const std::string error =
+        "coast.TDM: [ 3, 8 ] Error: the step from point 3 to point 4 skips cell [ 3, 8 ], which is "
+        "built without it; put a point there\n";
+    Add_segment(river_, SandWithWaves, 80, {{5000, 5872}, {5000, 6400}, {5000, 6639}});
+    Add_segment(river_, Stream, 80, {{5000, 6400}, {5000, 6400}, {5010, 6400}});
+    files_.Content = {{"coast.TDM", Project_bytes(river_, "")}};
+    EXPECT_EQ(Run({"", {"coast.TDM", "gone.TDM"}, true}, false),
+              error +
+                  "coast.TDM: [ 3, 9 ] Remark: points 6 and 7 are at the same place; delete one "
+                  "of them\ngone.TDM: No such file or directory\n");
+    EXPECT_EQ(files_.Content.size(), 1U);
+    EXPECT_EQ(Run({"", {"coast.TDM"}}, true), "coast-VTP.asm\ncoast-LWM.asm\n" + error);
+    river_.VTPCount = 2;
+    files_.Content["river.TDM"] = Project_bytes(river_, "");
+    EXPECT_EQ(Run({"", {"river.TDM"}, true}, true), "");
+}
+
 }  // namespace tidemark

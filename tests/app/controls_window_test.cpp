@@ -225,7 +225,8 @@ TEST_F(ControlsTest, EachOfThemIsInTheTableAboveAndInTheInstructions) {
     };
     const auto expect_captions = [&](const QWidget& window) {
         for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>())
-            if (!button->text().isEmpty()) expect_marked("b class=\"ui\"", button->text());
+            if (!button->text().isEmpty() && !button->text().toInt())
+                expect_marked("b class=\"ui\"", button->text());
         for (const QGroupBox* const frame : window.findChildren<QGroupBox*>())
             if (!frame->title().isEmpty()) expect_marked("b class=\"ui\"", frame->title());
     };
@@ -251,9 +252,10 @@ TEST_F(ControlsTest, EachOfThemIsInTheTableAboveAndInTheInstructions) {
     expect_captions(window);
     escaping_.Before_closing = expect_captions;
     for (const char* const step : {"VTPlistbox Down", "EditButton click", "BackgroundProperties",
-                                   "OutputPreferences", "CellCalc"})
+                                   "OutputPreferences", "CellCalc", "CoastCheck"})
         scene.Do(step);
-    EXPECT_EQ(escaping_.Shown.size(), 4);
+    QApplication::processEvents();
+    EXPECT_EQ(escaping_.Shown.size(), 5);
 }
 
 TEST_F(ControlsTest, AnErrorOfAHandlerIsShownAndTheProgramGoesOn) {

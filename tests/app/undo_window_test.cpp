@@ -96,6 +96,10 @@ class UndoTest : public testing::Test {
     T& Of_panel(const char* name) {
         return Control<T>(panel_, name);
     }
+    template <class T>
+    T& Of_check(const char* name) {
+        return Control<T>(window_, QString("CoastCheck/") + name);
+    }
     QAction& Action(const char* name) { return *window_.findChild<QAction*>(name); }
 
     TemporaryFolder folder_;
@@ -183,6 +187,18 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgainAndTheNextClickGoesWhereItWo
              });
              plan_.Then_choose(QString::fromStdString(folder_ / "coast.json"));
              Action("ImportCoast").trigger();
+         }},
+        {"mend cell [ 4, 5 ]",
+         [this] {
+             Action("CoastCheck").trigger();
+             for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End})
+                 Press(Of_check<ListBox>("FindingList"), key);
+             Click(Of_check<QPushButton>("MendButton"));
+         }},
+        {"mend the coast",
+         [this] {
+             Action("CoastCheck").trigger();
+             Click(Of_check<QPushButton>("MendAllButton"));
          }},
         {"change background properties",
          [this] {

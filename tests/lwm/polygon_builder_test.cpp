@@ -70,8 +70,9 @@ TEST(PolygonBuilderTest, TheRecordHoldsCellTypeAndHeight) {
         Session session = Cell_session();
         session.DrawMode = LandPolygon;
         RecordingMessages messages;
-        const auto [text, is_added, remark] =
+        const auto [text, is_added, remark, is_by_coast] =
             Add_LWM_Poly(*project, session, messages, choice, typed);
+        EXPECT_FALSE(is_by_coast);
         if (!is_added) return text + " " + messages.Said();
         EXPECT_EQ(project->LWMType(1), LandPolygon);
         EXPECT_EQ(project->LWMCell(1, 0), PictureColumn);
