@@ -6,6 +6,7 @@
 
 #include "app/map_commands.h"
 #include "canvas/map_frame.h"
+#include "lwm/cell_text.h"
 #include "model/path_text.h"
 #include "model/text_forms.h"
 
@@ -42,6 +43,9 @@ std::string Filling_text(const FillPlan& plan) {
 std::vector<std::string> Remarks_on(const LaidCoast& coast, const ImportResult& result) {
     std::vector<std::string> remarks = coast.Dropped;
     for (const Finding& error : result.Errors) remarks.push_back(Finding_line(error));
+    for (const FillStop& stop : result.Filled.Stops)
+        remarks.push_back(Cell_text(stop.Cell.Column, stop.Cell.Row) +
+                          " Filling stops here: " + stop.Why);
     return remarks;
 }
 
