@@ -129,6 +129,7 @@ QPoint KeysOnly::Do_by_keys(const Act& act) {
 void KeysOnly::Do_by_mouse(const Act& act, QPoint pixel) {
     if (act.Mode) Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), act.Mode);
     map_.Reveal({pixel.x() / map_.Scale().Zoom(), pixel.y() / map_.Scale().Zoom()});
+    QTest::qWait(100);  // for the mouse to learn where it is on the moved map
     Click_at(canvas_, pixel, act.Button);
     if (act.InCell >= 0) Edit_point(act.InCell);
 }

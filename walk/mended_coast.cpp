@@ -42,6 +42,8 @@ class MendedCoast {
 
   private:
     QPoint Pixel(Place place) const;
+    void Bring_into_view(Place place);
+    void Click_map(Place place);
     int Errors() const { return Count_errors(Check_coast(window_.Current_project())); }
     void Trigger(const char* action) { window_.findChild<QAction*>(action)->trigger(); }
 
@@ -59,14 +61,25 @@ QPoint MendedCoast::Pixel(Place place) const {
     return {qRound(x), qRound(y)};
 }
 
+void MendedCoast::Bring_into_view(Place place) {
+    const QPoint pixel = Pixel(place);
+    map_.Center_on({double(pixel.x()), double(pixel.y())});
+    QTest::qWait(100);  // for the mouse to learn where it is on the moved map
+}
+
+void MendedCoast::Click_map(Place place) {
+    if (!canvas_.visibleRegion().contains(Pixel(place))) Bring_into_view(place);
+    Click_at(canvas_, Pixel(place));
+}
+
 void MendedCoast::Draw() {
     map_.Zoom_reset();
-    const QPoint middle = Pixel({12, 22, 128, 128});
-    map_.Center_on({double(middle.x()), double(middle.y())});
+    Bring_into_view({12, 22, 128, 128});
     Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), "Coastline (sand), no waves");
     auto& starts_segment = Control<QCheckBox>(panel_, "NewSegment");
     if (!starts_segment.isChecked()) Click(starts_segment);
-    for (const Place& place : Shore) Click_at(canvas_, Pixel(place));
+    for (const Place& place : Shore) Click_map(place);
+    Bring_into_view({12, 22, 128, 128});
     Check(Errors() > 0, "the bad coast has no errors");
 }
 
@@ -89,7 +102,7 @@ void MendedCoast::Look_and_mend() {
 
 void MendedCoast::Fill() {
     Choose_line(Control<QComboBox>(panel_, "DrawModeCombo"), "Water polygon");
-    Click_at(canvas_, Pixel(Water));
+    Click_map(Water);
     auto& polygons = Control<QWidget>(panel_, "LWMlistBox");
     polygons.setFocus();
     for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End}) Press(polygons, key);
