@@ -12,6 +12,7 @@
 
 #include "walk/driver.h"
 #include "walk/keys_only.h"
+#include "walk/mended_coast.h"
 #include "walk/picture_strip.h"
 
 namespace tidemark {
@@ -62,6 +63,10 @@ class Walk {
     void Save_the_project();
     void Write_both_files();
     void Compile_and_copy(const QString& compiler);
+    void Mend_and_fill() {
+        Draw_mend_and_fill(window_, Save_picture);
+        Scroll_to({700, 500});
+    }
     void Draw_without_the_mouse() {
         Draw_with_keys_only(window_, [this] { Take_picture("drawing-by-keys"); });
     }
@@ -329,12 +334,14 @@ void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     walk.Draw_without_the_mouse();
     walk.Import_the_coast();
     walk.Open_the_sample();
+    walk.Mend_and_fill();
     walk.Exit_through_the_question();
-    Save_picture_strip({"empty.png", "background-properties.png", "cell-calculator.png",
-                        "drawing.png", "edit-point.png", "polygons.png", "preferences.png",
-                        "compiling.png", "copied.png", "drawing-by-keys.png", "import-coast.png",
-                        "imported.png", "main-window.png", "exit-question.png"},
-                       "strip.png");
+    Save_picture_strip(
+        {"empty.png", "background-properties.png", "cell-calculator.png", "drawing.png",
+         "edit-point.png", "polygons.png", "preferences.png", "compiling.png", "copied.png",
+         "drawing-by-keys.png", "import-coast.png", "imported.png", "main-window.png",
+         "coast-check.png", "coast-filled.png", "exit-question.png"},
+        "strip.png");
 }
 
 }  // namespace tidemark

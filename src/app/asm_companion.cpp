@@ -8,6 +8,7 @@
 #include "model/path_text.h"
 #include "output/assembler_files.h"
 #include "output/foreign_file.h"
+#include "output/vtp_text.h"
 
 namespace tidemark {
 
@@ -57,6 +58,12 @@ std::string Output_path(const CompanionTask& task, const std::string& project_pa
     return task.OutputFolder.empty() ? path : task.OutputFolder + "/" + Last_part(path);
 }
 
+// Whether polygons are all that there is to write: a project that goes on with those of another
+// one, or whose coastlines are plain edges only.
+bool Has_polygons_only(const Project& project) {
+    return project.LWMCount > 0 && project.KillCount == 0 && Written_segment_count(project) == 0;
+}
+
 class Companion {
   public:
     Companion(const CompanionTask& task, Files& files, std::ostream& out, std::ostream& errors)
@@ -81,10 +88,11 @@ class Companion {
         project.VTPFileName = Output_path(task_, path, project, project.VTPFileName, "-VTP.asm");
         project.LWMFileName = Output_path(task_, path, project, project.LWMFileName, "-LWM.asm");
 
-        const bool vtp_written = Write(path, project.VTPFileName, [&] {
-            VTP_file_write(project, session, messages, files_);
-            return !session.VTPWriteFailed;
-        });
+        const bool vtp_written =
+            Has_polygons_only(project) || Write(path, project.VTPFileName, [&] {
+                VTP_file_write(project, session, messages, files_);
+                return !session.VTPWriteFailed;
+            });
         const bool lwm_written = project.LWMCount == 0 || Write(path, project.LWMFileName, [&] {
                                      return LWM_file_write(project, messages, files_);
                                  });

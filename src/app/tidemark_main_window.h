@@ -162,9 +162,9 @@ class TidemarkMain : public QMainWindow {
     CellCalculator* calculator_ = nullptr;
     GoTo* go_to_ = nullptr;
     FillCoast* fill_coast_ = nullptr;
+    CoastCheck* coast_check_ = nullptr;
     ImportCoast* import_coast_ = nullptr;
     MapMarks preview_;  // of what is being imported
-    CoastCheck* coast_check_ = nullptr;
     bool redrawing_ = false;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept; the first to go
 };

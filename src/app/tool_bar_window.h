@@ -32,10 +32,10 @@ class ToolBar : public QToolBar {
     QAction& DrawByKeys() { return *DrawByKeys_; }
     QAction& FillCoast() { return *FillCoast_; }
     QAction& ClearCoast() { return *ClearCoast_; }
-    QAction& ImportCoast() { return *ImportCoast_; }
     QAction& CoastCheck() { return *CoastCheck_; }
     // How many findings there are stands beside the icon.
     void Show_findings(const Findings& findings);
+    QAction& ImportCoast() { return *ImportCoast_; }
     // Which marks are wanted; all off while the marks are.
     MarkKinds Wanted_marks() const;
 

@@ -16,7 +16,7 @@ IconShapes ShowChosenIcon();
 IconShapes DrawByKeysIcon();
 IconShapes FillCoastIcon();
 IconShapes ClearCoastIcon();
-IconShapes ImportCoastIcon();
 IconShapes CoastCheckIcon();
+IconShapes ImportCoastIcon();
 
 }  // namespace tidemark

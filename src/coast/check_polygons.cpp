@@ -124,9 +124,15 @@ int Units_of_disagreement(const Shores& here, EdgeType side, const Shores& there
 }  // namespace
 
 void Check_polygons(const Project& p, const CoastSurvey& survey, Findings& findings) {
+    const bool has_coast = p.VTPCount > 0;
+    if (!has_coast && p.LWMCount > 0)
+        findings.push_back({.Kind = FindingKind::Polygon,
+                            .IsError = false,
+                            .Text = "there is no line to hold the polygons against; they belong to "
+                                    "another project of this LOD8 cell, or the lines are gone"});
     for (const auto& [cell, polygons] : Polygons_by_cell(p)) {
         if (!Is_in_LOD8_cell(cell)) continue;
-        Check_outlines(p, polygons, survey.Candidates(cell), findings);
+        if (has_coast) Check_outlines(p, polygons, survey.Candidates(cell), findings);
         if (polygons.size() > 1) Check_overlaps(p, polygons, findings);
     }
 }

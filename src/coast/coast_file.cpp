@@ -4,7 +4,6 @@
 #include <new>
 #include <system_error>
 
-#include "coast/coast_runs.h"
 #include "coast/geojson_reader.h"
 #include "coast/kml_gpx_reader.h"
 #include "coast/shapefile_reader.h"
@@ -56,16 +55,20 @@ void Check_is_file(const fs::path& path) {
     if (!fs::is_regular_file(status)) throw CoastRefusal{"", "it is no file"};
 }
 
+void Read_into(const fs::path& path, CoastRuns& runs, const CoastProgress& progress) {
+    Check_is_file(path);
+    Read_by_extension(path, runs, progress);
+    if (runs.Kept() == 0) throw CoastRefusal{"", "there is no line or polygon in it"};
+}
+
 }  // namespace
 
 CoastFileReading Read_coast_file(const fs::path& path, std::span<const GeoBox> wanted,
                                  const CoastProgress& progress) {
     CoastFileReading reading;
     try {
-        Check_is_file(path);
         CoastRuns runs(wanted);
-        Read_by_extension(path, runs, progress);
-        if (runs.Kept() == 0) throw CoastRefusal{"", "there is no line or polygon in it"};
+        Read_into(path, runs, progress);
         reading.Lines = runs.Take();
     } catch (const CoastCancelled&) {
         reading.Cancelled = true;
@@ -75,6 +78,18 @@ CoastFileReading Read_coast_file(const fs::path& path, std::span<const GeoBox> w
         reading.Refusal = {"", "what it holds of the wanted area does not fit into memory"};
     }
     return reading;
+}
+
+std::optional<CoastRefusal> Watch_coast_file(const fs::path& path, const SegmentWatch& watch) {
+    try {
+        CoastRuns runs(watch);
+        Read_into(path, runs, {});
+    } catch (const CoastRefusal& refusal) {
+        return refusal;
+    } catch (const std::bad_alloc&) {
+        return CoastRefusal{"", "a part of it does not fit into memory"};
+    }
+    return std::nullopt;
 }
 
 std::string Refusal_text(const fs::path& path, const CoastRefusal& refusal) {

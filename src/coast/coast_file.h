@@ -9,6 +9,7 @@
 
 #include "coast/coast_input.h"
 #include "coast/coast_line.h"
+#include "coast/coast_runs.h"
 
 namespace tidemark {
 
@@ -27,6 +28,11 @@ struct CoastFileReading {
 // Memory: what is kept, and of a shapefile the largest record that may touch a box.
 CoastFileReading Read_coast_file(const std::filesystem::path& path, std::span<const GeoBox> wanted,
                                  const CoastProgress& progress = {});
+
+// Shows `watch` all segments of all lines of such a file, in the file's order; nothing is kept. Why
+// it was refused, after some of them may have been shown.
+std::optional<CoastRefusal> Watch_coast_file(const std::filesystem::path& path,
+                                             const SegmentWatch& watch);
 
 // "coast.geojson, line 12: what is wrong"
 std::string Refusal_text(const std::filesystem::path& path, const CoastRefusal& refusal);

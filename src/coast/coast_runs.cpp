@@ -111,6 +111,7 @@ CoastRuns::CoastRuns(std::span<const GeoBox> wanted)
 }
 
 bool CoastRuns::May_touch(const GeoBox& bounds) const {
+    if (watch_) return true;
     for (int turns = -FarthestTurn; turns <= FarthestTurn; ++turns) {
         if (!Touch(Moved_east(around_wanted_, turns), bounds)) continue;
         for (const GeoBox& box : wanted_)
@@ -142,6 +143,7 @@ CoastPosition CoastRuns::Chunk_position(std::size_t at, int turn) const {
 // Looks through the chunk and begins the next one with its last position.
 void CoastRuns::Flush() {
     if (count_ < 2) return;
+    if (watch_) Show_segments();
     GeoBox bounds{NoDegrees, NoDegrees, -NoDegrees, -NoDegrees};
     CoastPosition before = Chunk_position(0, turn_);
     Widen(bounds, before);
@@ -162,6 +164,14 @@ void CoastRuns::Flush() {
     chunk_[0] = chunk_[count_ - 1];
     lead_turn_ = turn_;
     count_ = 1;
+}
+
+void CoastRuns::Show_segments() const {
+    CoastPosition from = Chunk_position(0, turn_);
+    for (std::size_t at = 1; at < count_; ++at) {
+        if (!Closes_polygon_only(from, chunk_[at])) watch_(from, chunk_[at]);
+        from = chunk_[at];
+    }
 }
 
 void CoastRuns::Keep_segments(std::size_t box, int turns, const GeoBox& moved) {

@@ -11,9 +11,11 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "coast/coast_line.h"
@@ -44,9 +46,18 @@ enum class CoastRole : std::uint8_t { Line, OuterRing, Hole };
 // those that run the other way are holes.
 enum class CoastSides : std::uint8_t { None, ByRole, ByLargest };
 
+// Is told each segment of coast, among them those of lines that are dropped in the end. The
+// longitudes are at most a turn beyond +/-180.
+using SegmentWatch = std::function<void(const CoastPosition& from, const CoastPosition& to)>;
+
 class CoastRuns {
   public:
     explicit CoastRuns(std::span<const GeoBox> wanted);
+
+    // Keeps nothing, but has all segments of the world watched.
+    explicit CoastRuns(SegmentWatch watch) : CoastRuns(std::span<const GeoBox>()) {
+        watch_ = std::move(watch);
+    }
 
     // Whether anything within these bounds may touch a box.
     bool May_touch(const GeoBox& bounds) const;
@@ -107,6 +118,7 @@ class CoastRuns {
 
     void Step_over_date_line(int turns);
     void Flush();
+    void Show_segments() const;
     void Keep_segments(std::size_t box, int turns, const GeoBox& moved);
     void Keep_segment(std::size_t box, int turn, std::size_t at);
     CoastPosition Chunk_position(std::size_t at, int turn) const;
@@ -119,6 +131,7 @@ class CoastRuns {
     void Join_over_start(std::vector<Run>& runs) const;
     void End_runs(std::size_t box, bool closes, std::optional<bool> land_on_left);
 
+    SegmentWatch watch_;
     std::vector<GeoBox> wanted_;
     GeoBox around_wanted_;
 

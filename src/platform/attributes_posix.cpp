@@ -1,5 +1,6 @@
 // The attributes of files by way of POSIX calls, and of Linux's for extended attributes.
 #include <algorithm>
+#include <mutex>
 #include <optional>
 #include <sstream>
 #include <sys/xattr.h>
@@ -69,7 +70,10 @@ bool Copy_attributes(const std::string& path, const struct stat& old, int made) 
     return Copy_extended_attributes(path, made);
 }
 
+// The mask can only be read by setting it, which is one thread's turn at a time.
 mode_t New_file_permissions() {
+    static std::mutex turn;
+    const std::lock_guard lock(turn);
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return 0666 & ~mask;

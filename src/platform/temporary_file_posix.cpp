@@ -3,12 +3,12 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <dirent.h>
 #include <fcntl.h>
-#include <filesystem>
+#include <memory>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <system_error>
 
 #include "platform/posix_temporary_file.h"
 
@@ -70,11 +70,11 @@ bool TemporaryFile::Rename(const std::string& path) {
 }
 
 void Remove_left_temporary_files(const std::string& folder) {
-    std::error_code unreadable;
-    std::filesystem::directory_iterator entry(folder, unreadable);
-    for (; entry != std::filesystem::directory_iterator(); entry.increment(unreadable))
-        if (Is_temporary_name(entry->path().filename().native()))
-            Remove_if_left(entry->path().native());
+    // Of the many names that may be there none is made a path of before it is known to be ours.
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), &::closedir);
+    if (!entries) return;
+    while (const dirent* const entry = ::readdir(entries.get()))
+        if (Is_temporary_name(entry->d_name)) Remove_if_left(folder + entry->d_name);
 }
 
 }  // namespace tidemark

@@ -43,20 +43,30 @@ TEST_F(CompanionTest, NamesComeFromThePreferencesOrTheProjectAndTheFolderReplace
 
 // The last project has wrong flags and a closing point, which are put right as in the editor.
 TEST_F(CompanionTest, ARefusalDoesNotStopTheOtherFilesAndProjects) {
-    Project no_segments = river_, no_polygons = river_, stored = river_;
+    Project no_segments = river_, no_polygons = river_, nothing, stored = river_;
     no_segments.VTPCount = no_polygons.LWMCount = 0;
+    Project plain = no_segments, cleared = no_segments;
+    Add_segment(plain, PlainSegment, 80, {{5000, 6000}, {5010, 6000}});
+    Add_cleared_cell(cleared, 1, 2, ClearCoastlines);
     stored.VTPSegStart(1) = stored.VTPSegEnd(2) = false;
     stored.LWMPointCount(1) = 5;
     for (const int axis : {0, 1}) stored.LWMPoint(1, 5, axis) = stored.LWMPoint(1, 1, axis);
     files_.Content = {{"polygons.TDM", Project_bytes(no_segments, "")},
+                      {"plain.TDM", Project_bytes(plain, "")},
+                      {"cleared.TDM", Project_bytes(cleared, "")},
+                      {"nothing.TDM", Project_bytes(nothing, "")},
                       {"line.TDM", Project_bytes(no_polygons, "")},
                       {"river.TDM", Project_bytes(stored, "")},
                       {"bad.TDM", "x\n70000\n"}};
-    EXPECT_EQ(Run({"", {"gone.TDM", "bad.TDM", "polygons.TDM", "line.TDM", "river.TDM"}}, false),
-              "polygons-LWM.asm\nline-VTP.asm\nriver-VTP.asm\nriver-LWM.asm\n"
+    EXPECT_EQ(Run({"",
+                   {"gone.TDM", "bad.TDM", "polygons.TDM", "plain.TDM", "cleared.TDM",
+                    "nothing.TDM", "line.TDM", "river.TDM"}},
+                  false),
+              "polygons-LWM.asm\nplain-LWM.asm\ncleared-VTP.asm\ncleared-LWM.asm\nline-VTP."
+              "asm\nriver-VTP.asm\nriver-LWM.asm\n"
               "gone.TDM: No such file or directory\n"
               "bad.TDM: line 2: AreaLeftVTP does not fit -32768..32767: 70000\n"
-              "polygons.TDM: VTP file generation aborted - no valid coast segments or cell "
+              "nothing.TDM: VTP file generation aborted - no valid coast segments or cell "
               "clearing data found in VTP data!\n");
     EXPECT_EQ(files_.Content["river-VTP.asm"], VTP_file_bytes(river_));
     EXPECT_EQ(files_.Content["river-LWM.asm"], LWM_file_bytes(river_));

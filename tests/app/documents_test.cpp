@@ -82,11 +82,13 @@ TEST(PackagingTest, EveryFileNamesTheProgramsVersion) {
           {"packaging/debian/changelog", "tidemark (" + version + ")"},
           {"packaging/debian/tidemark.1", "\"Tidemark " + version + "\""},
           {"packaging/debian/tidemark-asm.1", "\"Tidemark " + version + "\""},
+          {"packaging/debian/tidemark-coast.1", "\"Tidemark " + version + "\""},
           {"packaging/debian/example.tidemark.Tidemark.metainfo.xml",
            "<release version=\"" + version + "\""}})
         EXPECT_NE(Source_file(file).find(text), std::string::npos) << file << " lacks " << text;
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DocumentsTest, testing::Values("Instructions.html", "Tutorial.html"));
+INSTANTIATE_TEST_SUITE_P(All, DocumentsTest,
+                         testing::Values("Instructions.html", "Tutorial.html", "ManyCells.html"));
 
 }  // namespace tidemark

@@ -176,18 +176,6 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgainAndTheNextClickGoesWhereItWo
              Select("VTPlistbox", 1);
              Action("ClearCoast").trigger();
          }},
-        {"import coast",
-         [this] {
-             Write_file(folder_ / "coast.json",
-                        R"({"type": "LineString",
-                            "coordinates": [[-179.98, 89.93], [-179.94, 89.92], [-179.9, 89.93]]})");
-             plan_.Then([](QWidget& dialog) {
-                 Click(Control<QPushButton>(dialog, "CoastFileButton"));
-                 Press(dialog, Qt::Key_Return);
-             });
-             plan_.Then_choose(QString::fromStdString(folder_ / "coast.json"));
-             Action("ImportCoast").trigger();
-         }},
         {"mend cell [ 4, 5 ]",
          [this] {
              Action("CoastCheck").trigger();
@@ -199,6 +187,18 @@ TEST_F(UndoTest, EveryCommandIsTakenBackAndDoneAgainAndTheNextClickGoesWhereItWo
          [this] {
              Action("CoastCheck").trigger();
              Click(Of_check<QPushButton>("MendAllButton"));
+         }},
+        {"import coast",
+         [this] {
+             Write_file(folder_ / "coast.json",
+                        R"({"type": "LineString",
+                            "coordinates": [[-179.98, 89.93], [-179.94, 89.92], [-179.9, 89.93]]})");
+             plan_.Then([](QWidget& dialog) {
+                 Click(Control<QPushButton>(dialog, "CoastFileButton"));
+                 Press(dialog, Qt::Key_Return);
+             });
+             plan_.Then_choose(QString::fromStdString(folder_ / "coast.json"));
+             Action("ImportCoast").trigger();
          }},
         {"change background properties",
          [this] {
