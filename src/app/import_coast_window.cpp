@@ -233,8 +233,10 @@ void ImportCoast::Lay() {
 void ImportCoast::Count() {
     import_.Options.Mode = ImportModeCombo_->currentData().toInt();
     import_.Options.ClearCells = ClearCellsCheck_->isChecked();
-    import_.Options.FillWater = FillWaterCheck_->isChecked();
-    import_.Options.FillLand = FillLandCheck_->isChecked();
+    const bool is_coastline = Is_coastline(import_.Options.Mode);
+    for (QCheckBox* const box : {FillWaterCheck_, FillLandCheck_}) box->setEnabled(is_coastline);
+    import_.Options.FillWater = is_coastline && FillWaterCheck_->isChecked();
+    import_.Options.FillLand = is_coastline && FillLandCheck_->isChecked();
     ImportPreview preview{problem_, {}, {}, false};
     if (!Take_tolerance(From_qt(ToleranceText_->text())))
         preview.CountText = WrongToleranceText;

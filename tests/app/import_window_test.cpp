@@ -86,6 +86,10 @@ TEST_F(ImportTest, ADroppedCoastIsCountedShownImportedAndUndone) {
             EXPECT_NE(tint(), water) << "the water is on the other side now";
             Click(Control<QCheckBox>(dialog, "ReverseCheck"));
             EXPECT_EQ(tint(), water);
+            auto& modes = Control<QComboBox>(dialog, "ImportModeCombo");
+            Choose_line(modes, "Road (dirt)");
+            EXPECT_EQ(Counted(dialog), lines) << "roads bound no polygons";
+            Choose_line(modes, "Coastline (river)");
             Type(Control<QLineEdit>(dialog, "ToleranceText"), "0");
             EXPECT_EQ(Counted(dialog), WrongToleranceText);
             EXPECT_FALSE(Control<QPushButton>(dialog, "OkButton").isEnabled());
@@ -102,6 +106,7 @@ TEST_F(ImportTest, ADroppedCoastIsCountedShownImportedAndUndone) {
     Drop("coast.geojson");
     const Project& now = window_.Current_project();
     EXPECT_GE(now.VTPCount, 4);
+    EXPECT_EQ(now.VTPMode(1), RiverCoast);
     EXPECT_EQ(now.LWMCount, 3);
     EXPECT_EQ(now.LWMType(1), WaterPolygon);
     EXPECT_TRUE(Said().ends_with(" points, 3 polygons.")) << Said();
