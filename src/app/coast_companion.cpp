@@ -188,9 +188,10 @@ class CoastCompanion {
 
     // What an earlier run has left of more projects would give the cell polygons twice.
     void Remove_those_from(WorldCell cell, int number, CellReport& report) const {
-        for (;; ++number) {
+        constexpr int most = 26;  // more letters than a cell ever needs
+        for (; number < most; ++number) {
             const std::string name = Coast_project_name(cell, number) + ".TDM";
-            if (!files_.Exists(folder_ + name)) return;
+            if (!files_.Exists(folder_ + name)) continue;
             const FileResult removed = files_.Delete(folder_ + name);
             if (removed) {
                 report.Out += name + ": removed\n";

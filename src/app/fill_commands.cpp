@@ -6,6 +6,7 @@
 #include "app/map_commands.h"
 #include "canvas/map_frame.h"
 #include "coast/clear_along.h"
+#include "coast/lay_coast.h"
 
 namespace tidemark {
 
@@ -49,7 +50,7 @@ std::string Clear_along_coast(Document& document, Session& session) {
 }
 
 std::optional<CellRange> Cells_in_view(const Project& p, CanvasPoint from, CanvasPoint to) {
-    if (!Has_scale(p)) return std::nullopt;
+    if (!Has_scale(p) || !Has_map_area(p)) return std::nullopt;
     const auto column = [&](double x) { return Cell_at(x, p.ScaleX, p.BGLOD13tlX, p.BGLOD13brX); };
     const auto row = [&](double y) { return Cell_at(y, p.ScaleY, p.BGLOD13tlY, p.BGLOD13brY); };
     return CellRange{{column(from.X), row(from.Y)}, {column(to.X), row(to.Y)}};

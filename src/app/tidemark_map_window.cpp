@@ -201,7 +201,9 @@ void TidemarkMain::Fill_coast() {
                                        Cells_in_view(document_.Now(), from, to));
     if (!plan) return;
     Fill_along_coast(document_, session_, *plan);
-    Say(std::to_string(plan->Polygons.size()) + " polygons added along the coast.");
+    const std::size_t count = plan->Polygons.size();
+    Say(std::to_string(count) + (count == 1 ? " polygon" : " polygons") +
+        " added along the coast.");
 }
 
 void TidemarkMain::Import_coast(const QString& path) {

@@ -102,6 +102,7 @@ void Cut_step(CellPath& path, Position from, Position to) {
 
 std::vector<Position> Placed(const std::vector<Position>& line) {
     std::vector<Position> placed;
+    placed.reserve(line.size());
     for (const Position& point : line) placed.push_back(Placed(point));
     return placed;
 }

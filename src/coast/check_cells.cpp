@@ -19,8 +19,8 @@ bool Belongs_on_edge(const Project& p, const SurveyedCell& cell, int end) {
     const auto place = Place_on_edge(p, end);
     return place &&
            std::none_of(cell.Crossings.begin(), cell.Crossings.end(), [&](const auto& crossing) {
-               return Position{First_unit(cell.Cell.Column) + crossing.Place.X,
-                               First_unit(cell.Cell.Row) + crossing.Place.Y} == *place;
+               return Position{First_unit(cell.Cell.Column) + int{crossing.Place.X},
+                               First_unit(cell.Cell.Row) + int{crossing.Place.Y}} == *place;
            });
 }
 

@@ -230,30 +230,32 @@ void CoastDraft::Part_lines() {
         }
         // Only where no point is left that could part them.
         for (const Conflict& conflict : conflicts)
-            if (!changed[conflict.Line] && !changed[conflict.OtherLine])
-                Separate(conflict, changed);
+            if (!changed[conflict.Line] && !changed[conflict.OtherLine] && Separate(conflict))
+                changed[conflict.Line] = changed[conflict.OtherLine] = true;
+        // Open lines that cross stay as they are; the check will say so.
+        if (std::find(changed.begin(), changed.end(), true) == changed.end()) return;
         for (std::size_t line = 0; line < lines_.size(); ++line) Place(line);
     }
 }
 
-void CoastDraft::Separate(const Conflict& conflict, std::vector<bool>& changed) {
+bool CoastDraft::Separate(const Conflict& conflict) {
     const std::size_t line = conflict.Line, other = conflict.OtherLine;
-    changed[line] = changed[other] = true;
     if (line == other)
         return Cut_off_loop(line, std::min(conflict.Chord, conflict.OtherChord),
                             std::max(conflict.Chord, conflict.OtherChord));
     const bool first_is_ring = lines_[line].Line.IsRing;
     const bool second_is_ring = lines_[other].Line.IsRing;
-    if (!first_is_ring && !second_is_ring) return;  // the check will say so
+    if (!first_is_ring && !second_is_ring) return false;
     const auto area = [&](std::size_t i) { return std::fabs(Twice_area(lines_[i].Line.Points)); };
     const bool drop_first = first_is_ring && (!second_is_ring || area(line) < area(other));
     Drop(drop_first ? line : other, "touches another coastline");
+    return true;
 }
 
 // The points between the two chords leave the line. As a ring of their own they stay if they go
 // round anything; of a ring the larger part goes on as the line.
-void CoastDraft::Cut_off_loop(std::size_t number, std::size_t first_chord, std::size_t last_chord) {
-    if (first_chord == last_chord) return;
+bool CoastDraft::Cut_off_loop(std::size_t number, std::size_t first_chord, std::size_t last_chord) {
+    if (first_chord == last_chord) return false;
     DraftLine& line = lines_[number];
     const std::size_t first = kept_[number][first_chord + 1], last = kept_[number][last_chord];
     DraftLine loop{
@@ -264,13 +266,14 @@ void CoastDraft::Cut_off_loop(std::size_t number, std::size_t first_chord, std::
     if (line.Line.IsRing &&
         std::fabs(Twice_area(line.Line.Points)) < std::fabs(Twice_area(loop.Line.Points)))
         std::swap(line, loop);
-    if (std::fabs(Twice_area(loop.Line.Points)) <= LeastTwiceArea) return;
+    if (std::fabs(Twice_area(loop.Line.Points)) <= LeastTwiceArea) return true;
     for (DraftLine* const part : {&line, &loop})
         if (!part->Line.Points.empty())
             part->Significances.front() = part->Significances.back() = Endless;
     lines_.push_back(std::move(loop));
     kept_.emplace_back();
     placed_.emplace_back();
+    return true;
 }
 
 void CoastDraft::Drop(std::size_t line, const std::string& why) {

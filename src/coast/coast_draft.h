@@ -59,8 +59,9 @@ class CoastDraft {
     std::vector<Step> Steps() const;
     std::vector<Conflict> Conflicts() const;
     bool Keep_more(std::size_t line, std::size_t chord);
-    void Separate(const Conflict& conflict, std::vector<bool>& changed);
-    void Cut_off_loop(std::size_t line, std::size_t first_chord, std::size_t last_chord);
+    // Both say whether anything has changed.
+    bool Separate(const Conflict& conflict);
+    bool Cut_off_loop(std::size_t line, std::size_t first_chord, std::size_t last_chord);
     void Drop(std::size_t line, const std::string& why);
 
     MapUnits map_;

@@ -77,12 +77,14 @@ CoastSurvey::CoastSurvey(const Project& project) : project_(std::make_unique<Pro
 }
 
 void CoastSurvey::Find_cells() {
-    std::bitset<CellsAcross * CellsAcross> found;
+    constexpr std::size_t across = CellsAcross;
+    std::bitset<across * across> found;
     for (const Segment& coastline : coastlines_)
         for (int i = coastline.First; i <= coastline.Last; ++i) {
             const auto [column, row] = Cell_of(Point_of(*project_, i));
             if (Is_in_LOD8_cell({column, row}))
-                found.set(static_cast<std::size_t>(column * CellsAcross + row));
+                found.set(static_cast<std::size_t>(column) * across +
+                          static_cast<std::size_t>(row));
         }
     for (int cell = 0; cell < CellsAcross * CellsAcross; ++cell)
         if (found.test(static_cast<std::size_t>(cell)))

@@ -73,7 +73,7 @@ class Filling {
     struct Place {
         LOD13Cell Cell;
         std::size_t Piece;
-        auto operator<=>(const Place&) const = default;
+        auto operator<=>(const Place&) const = default;  // NOLINT(modernize-use-nullptr)
     };
 
     struct ReachedCell {
@@ -161,8 +161,8 @@ class Filling {
     }
 
     bool Is_at(int point, LOD13Cell cell, CellPoint place) const {
-        return p_.VTPPoint(point, 0) == First_unit(cell.Column) + place.X &&
-               p_.VTPPoint(point, 1) == First_unit(cell.Row) + place.Y;
+        return p_.VTPPoint(point, 0) == First_unit(cell.Column) + int{place.X} &&
+               p_.VTPPoint(point, 1) == First_unit(cell.Row) + int{place.Y};
     }
 
     void Go_on() {

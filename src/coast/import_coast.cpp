@@ -43,7 +43,7 @@ bool Clear_all(Project& p, int first, int& cleared) {
 
 ImportResult Import_coast(Project& project, const LaidCoast& coast, const ImportOptions& options) {
     ImportResult result;
-    if (project.VTPCount + coast.Points > MaxVTPCount) {
+    if (int{project.VTPCount} + coast.Points > MaxVTPCount) {
         result.Refusal = std::to_string(coast.Points) + " points are needed, and " +
                          std::to_string(MaxVTPCount - project.VTPCount) + " are free.";
         return result;

@@ -4,12 +4,14 @@
 #include <cstdlib>
 #include <map>
 #include <set>
+#include <string_view>
 
 #include "coast/cell_path.h"
 #include "coast/check.h"
 #include "coast/check_parts.h"
 #include "coast/rebuild.h"
 #include "lwm/polygon_builder.h"
+#include "model/drawing_modes.h"
 #include "model/records.h"
 
 namespace tidemark {
@@ -145,6 +147,7 @@ std::string No_room_for(int points, const Project& p) {
 std::optional<int> Meeting_place(const Project& p, Position place, std::size_t axis, int far_unit) {
     for (int i = 1; i <= p.VTPCount; ++i) {
         if (!p.VTPSegStart(i) && !p.VTPSegEnd(i)) continue;
+        if (!Is_coastline(p.VTPMode(Segment_first(p, i)))) continue;
         const Position other = VTP_position(p, i);
         const int apart = std::abs(other[1 - axis] - place[1 - axis]);
         if (other[axis] == far_unit && apart <= MaxEndFromEdge) return other[1 - axis];
@@ -199,7 +202,9 @@ MendResult Mend_all(Project& project, int followed) {
     for (int round = 0; round < MaxRounds && Has_remedy(findings); ++round) {
         const MendResult result = Mend(project, findings, all.Followed);
         if (!result.Refusal.empty()) {
-            if (all.Mended == 0) all.Refusal = result.Refusal;
+            constexpr std::string_view nothing = "Nothing";
+            all.Refusal = result.Refusal;
+            if (all.Mended > 0) all.Refusal.replace(0, nothing.size(), "Not everything");
             break;
         }
         all.Mended += result.Mended;

@@ -32,8 +32,8 @@ constexpr Position Cell_of(Position position) {
 
 // An LOD13 cell of the world's grid.
 struct LOD13Cell {
-    int Column = 0, Row = 0;  // 0..31
-    auto operator<=>(const LOD13Cell&) const = default;
+    int Column = 0, Row = 0;                             // 0..31
+    auto operator<=>(const LOD13Cell&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 constexpr bool Is_in_LOD8_cell(LOD13Cell cell) {

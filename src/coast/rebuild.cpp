@@ -27,7 +27,13 @@ bool Has_much_in_common(const Outline& a, const Outline& b) {
     const std::int64_t area_a = Twice_area(a), area_b = Twice_area(b);
     const std::int64_t least = std::min(area_a, area_b);
     const bool must_overlap = 2 * (area_a + area_b - twice_cell) >= least;
-    return must_overlap || 4 * CellMask(a).Common_area(CellMask(b)) >= least;
+    return must_overlap || std::int64_t{4} * CellMask(a).Common_area(CellMask(b)) >= least;
+}
+
+// Half of the larger one.
+bool Are_alike(const Outline& a, const Outline& b) {
+    const std::int64_t largest = std::max<std::int64_t>(Twice_area(a), Twice_area(b));
+    return std::int64_t{4} * CellMask(a).Common_area(CellMask(b)) >= largest;
 }
 
 }  // namespace
@@ -47,7 +53,10 @@ bool Is_built_as(const Outline& polygon, const Outline& piece) {
 
 std::optional<Outline> Rebuilt(const Outline& polygon, const std::vector<Outline>& candidates) {
     const std::vector<Outline> pieces = Distinct_pieces(candidates);
-    if (pieces.size() == 1) return pieces.front();
+    // The one piece may be an island inside a polygon that was around it, or the whole cell of a
+    // polygon whose coastline is gone.
+    if (pieces.size() == 1)
+        return Are_alike(polygon, pieces.front()) ? pieces.front() : std::optional<Outline>();
     std::optional<Outline> found;
     for (const Outline& piece : pieces) {
         if (!Has_much_in_common(polygon, piece)) continue;
