@@ -50,13 +50,13 @@ void Check_outline(const Project& p, int polygon, const std::vector<Outline>& ca
 }
 
 void Check_outlines(const Project& p, const std::vector<int>& polygons,
-                    const std::vector<Outline>& candidates, bool has_coast, Findings& findings) {
+                    const std::vector<Outline>& candidates, Findings& findings) {
     std::vector<Outline> outlines;
     outlines.reserve(polygons.size());
     for (const int polygon : polygons) outlines.push_back(Stored_outline(p, polygon));
     const auto rebuilt = Rebuilt_together(outlines, candidates);
     for (std::size_t i = 0; i < polygons.size(); ++i)
-        Check_outline(p, polygons[i], candidates, has_coast && rebuilt[i].has_value(), findings);
+        Check_outline(p, polygons[i], candidates, rebuilt[i].has_value(), findings);
 }
 
 // The polygons of one cell against each other.
@@ -134,9 +134,7 @@ void Check_polygons(const Project& p, const CoastSurvey& survey, Findings& findi
                                 "to another project of this LOD8 cell, or it is gone"});
     for (const auto& [cell, polygons] : Polygons_by_cell(p)) {
         if (!Is_in_LOD8_cell(cell)) continue;
-        if (has_coast)
-            Check_outlines(p, polygons, survey.Candidates(cell), survey.At(cell) != nullptr,
-                           findings);
+        if (has_coast) Check_outlines(p, polygons, survey.Candidates(cell), findings);
         if (polygons.size() > 1) Check_overlaps(p, polygons, findings);
     }
 }

@@ -30,10 +30,10 @@ bool Has_much_in_common(const Outline& a, const Outline& b) {
     return must_overlap || std::int64_t{4} * CellMask(a).Common_area(CellMask(b)) >= least;
 }
 
-// Half of the larger one.
+// Nine tenths of the larger one.
 bool Are_alike(const Outline& a, const Outline& b) {
     const std::int64_t largest = std::max<std::int64_t>(Twice_area(a), Twice_area(b));
-    return std::int64_t{4} * CellMask(a).Common_area(CellMask(b)) >= largest;
+    return std::int64_t{20} * CellMask(a).Common_area(CellMask(b)) >= 9 * largest;
 }
 
 }  // namespace
