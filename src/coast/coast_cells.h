@@ -13,7 +13,7 @@ namespace tidemark {
 // pole.
 struct WorldCell {
     int Column = 0, Row = 0;
-    auto operator<=>(const WorldCell&) const = default;
+    auto operator<=>(const WorldCell&) const = default;  // NOLINT(modernize-use-nullptr)
 };
 
 // The cell that a place within +/-180 and 90 degrees lies in; the eastern and the southern edge of
