@@ -1,11 +1,11 @@
 // The parts of the coast check; each appends what it finds.
 #pragma once
 
-#include <map>
 #include <string>
 
 #include "coast/coast_survey.h"
 #include "coast/finding.h"
+#include "coast/project_places.h"
 #include "lwm/cell_text.h"
 #include "model/project.h"
 
@@ -38,33 +38,6 @@ inline std::string Text_of(LOD13Cell cell) {
 
 inline std::string Point_text(int point) {
     return "point " + std::to_string(point);
-}
-
-inline Position VTP_position(const Project& p, int point) {
-    return {p.VTPPoint(point, 0), p.VTPPoint(point, 1)};
-}
-
-inline LOD13Cell Cell_of_point(const Project& p, int point) {
-    const auto [column, row] = Cell_of(VTP_position(p, point));
-    return {column, row};
-}
-
-inline LOD13Cell Cell_of_polygon(const Project& p, int polygon) {
-    return {p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)};
-}
-
-// The numbers of the polygons, by their cells.
-inline std::map<LOD13Cell, std::vector<int>> Polygons_by_cell(const Project& p) {
-    std::map<LOD13Cell, std::vector<int>> cells;
-    for (int polygon = 1; polygon <= p.LWMCount; ++polygon)
-        cells[Cell_of_polygon(p, polygon)].push_back(polygon);
-    return cells;
-}
-
-// In cell units.
-inline CellPoint Place_in_cell(const Project& p, int point) {
-    const auto [x, y] = VTP_position(p, point);
-    return {(x - FirstVTP) & LastCellUnit, (y - FirstVTP) & LastCellUnit};
 }
 
 }  // namespace tidemark

@@ -3,6 +3,7 @@
 #include <set>
 
 #include "coast/cell_path.h"
+#include "coast/project_places.h"
 #include "model/drawing_modes.h"
 #include "model/records.h"
 #include "model/segments.h"
@@ -10,15 +11,6 @@
 namespace tidemark {
 
 namespace {
-
-LOD13Cell Cell_at(Position place) {
-    const auto [column, row] = Cell_of(place);
-    return {column, row};
-}
-
-Position Place_of(const Project& p, int point) {
-    return {p.VTPPoint(point, 0), p.VTPPoint(point, 1)};
-}
 
 int Code_for(const Project& p, int point) {
     return Clear_code(p.VTPMode(Segment_first(p, point)));
@@ -36,9 +28,9 @@ std::vector<LOD13Cell> Cells_to_clear(const Project& p, int point) {
     const int first = Segment_first(p, point), last = Segment_last(p, point);
     std::set<LOD13Cell> cells;
     for (int i = first; i <= last; ++i) {
-        cells.insert(Cell_at(Place_of(p, i)));
+        cells.insert(Cell_of_point(p, i));
         if (i == first) continue;
-        const auto between = Cells_between(Place_of(p, i - 1), Place_of(p, i));
+        const auto between = Cells_between(VTP_position(p, i - 1), VTP_position(p, i));
         cells.insert(between.begin(), between.end());
     }
     for (int k = 1; k <= p.KillCount; ++k)

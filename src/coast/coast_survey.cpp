@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bitset>
 
+#include "coast/project_places.h"
 #include "lwm/edge_points.h"
 #include "lwm/polygon_builder.h"
 #include "lwm/polygon_candidates.h"
@@ -32,10 +33,6 @@ Session Session_at(LOD13Cell cell) {
     session.CursorCellX = cell.Column;
     session.CursorCellY = cell.Row;
     return session;
-}
-
-Position Point_of(const Project& p, int i) {
-    return {p.VTPPoint(i, 0), p.VTPPoint(i, 1)};
 }
 
 // Sorts the edge points of one chain, first..last, into what they are for the cell.
@@ -81,7 +78,7 @@ void CoastSurvey::Find_cells() {
     std::bitset<across * across> found;
     for (const Segment& coastline : coastlines_)
         for (int i = coastline.First; i <= coastline.Last; ++i) {
-            const auto [column, row] = Cell_of(Point_of(*project_, i));
+            const auto [column, row] = Cell_of_point(*project_, i);
             if (Is_in_LOD8_cell({column, row}))
                 found.set(static_cast<std::size_t>(column) * across +
                           static_cast<std::size_t>(row));
@@ -161,6 +158,15 @@ EdgeType Opposite(EdgeType side) {
         default:
             return EdgeType::Top;
     }
+}
+
+std::int64_t Twice_area(const Outline& outline) {
+    std::int64_t sum = 0;
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        const CellPoint a = outline[i], b = outline[i + 1 == outline.size() ? 0 : i + 1];
+        sum += std::int64_t{int{a.X}} * int{b.Y} - std::int64_t{int{b.X}} * int{a.Y};
+    }
+    return sum;
 }
 
 bool Same_outline(const Outline& a, const Outline& b) {

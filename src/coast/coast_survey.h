@@ -1,6 +1,7 @@
 // What the polygon builder makes of all cells that a coastline has a point in.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -67,6 +68,9 @@ LOD13Cell Beyond(LOD13Cell cell, EdgeType side);
 
 // Of Left, Right, Top and Bottom the one across.
 EdgeType Opposite(EdgeType side);
+
+// Square units, positive when the outline runs clockwise on the map.
+std::int64_t Twice_area(const Outline& outline);
 
 // The same vertices in the same order, wherever they begin.
 bool Same_outline(const Outline& a, const Outline& b);

@@ -9,6 +9,7 @@
 #include "coast/cell_mask.h"
 #include "coast/cell_pieces.h"
 #include "coast/check.h"
+#include "coast/project_places.h"
 #include "coast/rebuild.h"
 #include "model/drawing_modes.h"
 
@@ -43,13 +44,12 @@ class Filling {
         for (const Finding& finding : Check_coast(p))
             if (finding.Cell && Spoils_pieces(finding))
                 errors_.emplace(*finding.Cell, finding.Text);
-        for (int polygon = 1; polygon <= p.LWMCount; ++polygon)
-            present_[{p.LWMCell(polygon, 0), p.LWMCell(polygon, 1)}].push_back(polygon);
+        present_ = Polygons_by_cell(p);
     }
 
     FillPlan Plan(int polygon) {
         plan_.Free = MaxLWMCount - p_.LWMCount;
-        const LOD13Cell start{p_.LWMCell(polygon, 0), p_.LWMCell(polygon, 1)};
+        const LOD13Cell start = Cell_of_polygon(p_, polygon);
         first_ = {p_.LWMType(polygon), p_.LWMHeight(polygon)};
         takes_all_pieces_ = options_.Water && options_.Land;
         Begin(start, Stored_outline(p_, polygon));
@@ -131,7 +131,8 @@ class Filling {
             // Clockwise along the boundary from where a coastline enters lies its left side, from
             // where it leaves its right one.
             std::size_t piece = 0;
-            bool is_land = Runs_clockwise(pieces.Pieces().front()) == shore.LandOnLeft;
+            // A line that goes round clockwise has its outside on the left.
+            bool is_land = (Twice_area(pieces.Pieces().front()) > 0) == shore.LandOnLeft;
             if (!is_inside) {
                 piece = pieces.Piece_after(crossing->Place);
                 is_land = Enters(cell.Cell, *crossing) == shore.LandOnLeft;
@@ -141,28 +142,11 @@ class Filling {
         }
     }
 
-    // A line that goes round clockwise has its outside on the left.
-    static bool Runs_clockwise(const Outline& outline) {
-        int twice_area = 0;
-        for (std::size_t i = 0; i < outline.size(); ++i) {
-            const CellPoint a = outline[i], b = outline[i + 1 == outline.size() ? 0 : i + 1];
-            twice_area += int{a.X} * int{b.Y} - int{b.X} * int{a.Y};
-        }
-        return twice_area > 0;
-    }
-
     // Whether the coastline comes into the cell at the crossing: what is after it lies inside.
     bool Enters(LOD13Cell cell, const BoundaryPoint& crossing) const {
         const int point = crossing.Origin;
-        const bool is_point_inside = Cell_of({p_.VTPPoint(point, 0), p_.VTPPoint(point, 1)}) ==
-                                     Position{cell.Column, cell.Row};
-        return is_point_inside && (p_.VTPSegStart(point) || !p_.VTPSegEnd(point) ||
-                                   !Is_at(point, cell, crossing.Place));
-    }
-
-    bool Is_at(int point, LOD13Cell cell, CellPoint place) const {
-        return p_.VTPPoint(point, 0) == First_unit(cell.Column) + int{place.X} &&
-               p_.VTPPoint(point, 1) == First_unit(cell.Row) + int{place.Y};
+        return Cell_of_point(p_, point) == cell && (p_.VTPSegStart(point) || !p_.VTPSegEnd(point) ||
+                                                    Place_in_cell(p_, point) != crossing.Place);
     }
 
     void Go_on() {

@@ -11,20 +11,10 @@ namespace tidemark {
 
 namespace {
 
-// In square units, and whichever way round the outline runs.
-std::int64_t Twice_area(const Outline& outline) {
-    std::int64_t sum = 0;
-    for (std::size_t i = 0; i < outline.size(); ++i) {
-        const CellPoint a = outline[i], b = outline[i + 1 == outline.size() ? 0 : i + 1];
-        sum += std::int64_t{int{a.X}} * int{b.Y} - std::int64_t{int{b.X}} * int{a.Y};
-    }
-    return std::abs(sum);
-}
-
 // Half of the one or half of the other.
 bool Has_much_in_common(const Outline& a, const Outline& b) {
     constexpr int twice_cell = 2 * MaskSize * MaskSize;
-    const std::int64_t area_a = Twice_area(a), area_b = Twice_area(b);
+    const std::int64_t area_a = std::abs(Twice_area(a)), area_b = std::abs(Twice_area(b));
     const std::int64_t least = std::min(area_a, area_b);
     const bool must_overlap = 2 * (area_a + area_b - twice_cell) >= least;
     return must_overlap || std::int64_t{4} * CellMask(a).Common_area(CellMask(b)) >= least;
@@ -32,7 +22,7 @@ bool Has_much_in_common(const Outline& a, const Outline& b) {
 
 // Nine tenths of the larger one.
 bool Are_alike(const Outline& a, const Outline& b) {
-    const std::int64_t largest = std::max<std::int64_t>(Twice_area(a), Twice_area(b));
+    const std::int64_t largest = std::max(std::abs(Twice_area(a)), std::abs(Twice_area(b)));
     return std::int64_t{20} * CellMask(a).Common_area(CellMask(b)) >= 9 * largest;
 }
 
