@@ -20,13 +20,15 @@ int Cell_at(double pixel, float scale, int first, int last) {
 
 }  // namespace
 
-void Fill_along_coast(Document& document, Session& session, const FillPlan& plan) {
-    if (plan.Polygons.empty()) return;
+std::string Fill_along_coast(Document& document, Session& session, const FillPlan& plan) {
     document.Do("fill along the coast", [&](Project& project) {
         Fill(project, plan);
         session.DataChanged = true;
         Refresh_lists(project, session);
     });
+    const std::size_t count = plan.Polygons.size();
+    return std::to_string(count) + (count == 1 ? " polygon" : " polygons") +
+           " added along the coast.";
 }
 
 std::string Clear_along_coast(Document& document, Session& session) {

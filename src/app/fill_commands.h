@@ -10,8 +10,8 @@
 
 namespace tidemark {
 
-// Adds the polygons of a plan that fits. Nothing happens when it has none.
-void Fill_along_coast(Document& document, Session& session, const FillPlan& plan);
+// Adds the polygons of a plan that fits, and says so in one line for the status bar.
+std::string Fill_along_coast(Document& document, Session& session, const FillPlan& plan);
 
 // Clears the cells of the segment that the selected point is in, where they are not cleared for its
 // kind yet. What was done, or why it was not: one line for the status bar.

@@ -199,11 +199,7 @@ void TidemarkMain::Fill_coast() {
     const auto [from, to] = map_->Canvas_in_view();
     const auto plan = fill_coast_->Ask(document_.Now(), session_.Panel.SelectedPolygon + 1,
                                        Cells_in_view(document_.Now(), from, to));
-    if (!plan) return;
-    Fill_along_coast(document_, session_, *plan);
-    const std::size_t count = plan->Polygons.size();
-    Say(std::to_string(count) + (count == 1 ? " polygon" : " polygons") +
-        " added along the coast.");
+    if (plan) Say(Fill_along_coast(document_, session_, *plan));
 }
 
 void TidemarkMain::Import_coast(const QString& path) {
