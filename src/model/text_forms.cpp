@@ -46,10 +46,15 @@ std::string Int_text(Int16 value) {
 }
 
 std::string Blank_text(Int16 value) {
-    std::array<char, 8> text{' '};
-    char* const start = value < 0 ? text.data() : text.data() + 1;
-    const char* const end = std::to_chars(start, text.data() + text.size(), int{value}).ptr;
+    std::array<char, MaxIntText> text;
+    const char* const end = Put_blank_text(text.data(), value);
     return {text.data(), static_cast<std::size_t>(end - text.data())};
+}
+
+char* Put_blank_text(char* at, Int16 value) {
+    char* const start = value < 0 ? at : at + 1;
+    *at = ' ';
+    return std::to_chars(start, at + MaxIntText, int{value}).ptr;
 }
 
 std::string Blank_text(float value) {

@@ -17,6 +17,11 @@ std::string Blank_text(Int16 value);
 std::string Blank_text(float value);   // at most 7 significant digits
 std::string Blank_text(double value);  // at most 15 significant digits
 
+// Puts the blank-prefixed text of a number at `at`, which has room for MaxIntText characters, and
+// returns where it ends.
+inline constexpr int MaxIntText = 6;
+char* Put_blank_text(char* at, Int16 value);
+
 // " True" or " False".
 std::string Blank_text(bool value);
 
