@@ -217,6 +217,7 @@ void TidemarkMain::FileSaveAs_Click() {
 }
 
 void TidemarkMain::FileExit_Click() {
+    is_session_ending_ = false;  // who gives a command has stayed
     close();
 }
 

@@ -49,8 +49,10 @@ void TidemarkMain::Reload_picture_later() {
 }
 
 void TidemarkMain::Reload_picture() {
-    if (document_.Now().BackgroundLoaded)
-        Reload_background(document_, session_, messages_, Screen().Show_image);
+    if (!document_.Now().BackgroundLoaded) return;
+    Reload_background(document_, session_, messages_, Screen().Show_image);
+    // While a command waits for its dialog, nothing else shows what it has changed so far.
+    if (document_.Is_in_step()) Refresh_Graphics();
 }
 
 void TidemarkMain::Picture2_MouseMove(float x, float y) {

@@ -97,4 +97,12 @@ Int16 Int_value(std::string_view text) {
     return Round_half_even(Numeric_value(text));
 }
 
+std::string Whole_number_text(std::string_view text) {
+    try {
+        return Int_text(Int_value(text));
+    } catch (const Overflow&) {
+        return std::string(text);
+    }
+}
+
 }  // namespace tidemark

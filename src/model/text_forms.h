@@ -37,4 +37,7 @@ double Numeric_value(std::string_view text);
 // Throws Overflow when that does not fit.
 Int16 Int_value(std::string_view text);
 
+// The text of that number; the text as it is when the number does not fit.
+std::string Whole_number_text(std::string_view text);
+
 }  // namespace tidemark
