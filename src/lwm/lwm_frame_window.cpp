@@ -22,14 +22,6 @@ LWMFrame::LWMFrame(Document& document, Session& session, Messages& messages, QWi
       PolyHeightText_(Named_field("PolyHeightText", "Height in metres", "0")),
       ConformOption_(Named<QRadioButton>("ConformOption", "Conform to existing terrain")) {
     Lay_out();
-    connect(LWMlistBox_, &ListBox::Clicked, this, [this] {
-        session_.LastChosen = ListKind::Polygons;
-        Q_EMIT Graphics_outdated();
-    });
-    connect(LWMlistBox_, &ListBox::Double_clicked, this, [this] {
-        session_.LastChosen = ListKind::Polygons;
-        Q_EMIT Show_wanted();
-    });
     connect(ConformOption_, &QRadioButton::toggled, PolyHeightText_, &QLineEdit::setDisabled);
     ConformOption_->setChecked(true);
 }
@@ -54,7 +46,6 @@ LWMPolyResult LWMFrame::Add_LWM_Poly() {
     LWMPolyResult result =
         Click_polygon(document_, session_, choice, From_qt(PolyHeightText_->text()), messages_);
     PolyHeightText_->setText(To_qt(result.HeightText));
-    Q_EMIT Remarked(To_qt(result.StatusLine));
     return result;
 }
 
