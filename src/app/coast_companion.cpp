@@ -9,6 +9,7 @@
 #include <set>
 #include <span>
 #include <system_error>
+#include <utility>
 
 #include "app/coast_workers.h"
 #include "coast/coast_file.h"

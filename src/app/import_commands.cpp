@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "app/map_commands.h"
 #include "canvas/map_frame.h"
@@ -21,10 +22,6 @@ constexpr double LeastTolerance = 0.1, MostTolerance = 1000;
 constexpr Colour PreviewInk{224, 0, 160};
 constexpr Colour PreviewRim{255, 255, 255};  // which makes the line stand out from any map
 constexpr int PreviewWidth = 2, RimWidth = 4;
-
-std::string Counted(int count, const std::string& one, const std::string& several) {
-    return std::to_string(count) + " " + (count == 1 ? one : several);
-}
 
 std::string Cleared_text(int cells) {
     return cells == 0 ? "No cell is left to be cleared."
@@ -121,13 +118,13 @@ ImportResult Import_coast_file(Document& document, Session& session, const Coast
 
 std::string Imported_text(const LaidCoast& coast, const ImportResult& result) {
     if (!result.Refusal.empty()) return result.Refusal;
-    std::string text = Counted(static_cast<int>(coast.Lines.size()), "line", "lines") +
-                       " imported, " + Counted(coast.Points, "point", "points");
+    std::string text =
+        Counted(coast.Lines.size(), "line") + " imported, " + Counted(coast.Points, "point");
     const int polygons = static_cast<int>(result.Filled.Polygons.size());
     if (polygons > 0)
-        text += ", " + (result.Filled.Fits() ? Counted(polygons, "polygon", "polygons")
-                                             : "without the polygons");
-    if (result.Cleared > 0) text += ", " + Counted(result.Cleared, "cell", "cells") + " cleared";
+        text +=
+            ", " + (result.Filled.Fits() ? Counted(polygons, "polygon") : "without the polygons");
+    if (result.Cleared > 0) text += ", " + Counted(result.Cleared, "cell") + " cleared";
     return text + ".";
 }
 

@@ -19,8 +19,7 @@ class KeyDrawing : public QObject {
 
   public:
     // `command` switches it; all of them live as long as this does.
-    KeyDrawing(MapView& map, QAction& command, const Document& document, const Session& session,
-               QObject* parent);
+    KeyDrawing(MapView& map, QAction& command, const Document& document, const Session& session);
 
     // While it is on, moves the cross to a place, if that is on the map.
     void Go_to(VTPPlace place);

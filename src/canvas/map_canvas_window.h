@@ -68,11 +68,13 @@ class MapCanvas : public QWidget {
     void Bring_up_to_date(const QRect& visible);
     const QPixmap& Marked(const QRect& visible);
     void Update_around(const std::vector<MarkLine>& lines);
+    void Show_frame(std::vector<MarkLine>& shown, std::vector<MarkLine> frame);
+
+    // In map_canvas_input_window.cpp, with the handlers of the mouse and the keys.
     void Update_around_cross();
     void Tell(CanvasPoint place);
     void Tell_pointer();
     void Show_hand();
-    void Show_frame(std::vector<MarkLine>& shown, std::vector<MarkLine> frame);
 
     MapScale scale_;
     MapPicture picture_;

@@ -7,6 +7,7 @@
 #include "coast/rebuild.h"
 #include "lwm/polygon_builder.h"
 #include "model/drawing_modes.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -70,8 +71,7 @@ void Check_overlaps(const Project& p, const std::vector<int>& polygons, Findings
             findings.push_back(About(p, polygon,
                                      Polygon_text(polygon) + " overlaps " +
                                          Polygon_text(polygons[k]) + " by " +
-                                         std::to_string(common) + " square unit" +
-                                         (common == 1 ? "" : "s") + "; delete one of them"));
+                                         Counted(common, "square unit") + "; delete one of them"));
         }
     }
 }

@@ -8,6 +8,7 @@
 
 #include "coast/coast_draft.h"
 #include "coast/simplify.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -266,10 +267,9 @@ LaidCoast Lay_coast(const Project& project, std::span<const CoastLine> lines,
 }
 
 std::string Laid_text(const LaidCoast& coast, int free) {
-    const std::size_t lines = coast.Lines.size();
-    return std::to_string(lines) + (lines == 1 ? " line, " : " lines, ") +
-           std::to_string(coast.Points) + " points of " + std::to_string(free) +
-           " free, off by at most " + Short_number(coast.Deviation) +
+    return Counted(coast.Lines.size(), "line") + ", " + std::to_string(coast.Points) +
+           " points of " + std::to_string(free) + " free, off by at most " +
+           Short_number(coast.Deviation) +
            " units = " + std::to_string(std::lround(coast.Deviation * MetresToAUnit)) + " m";
 }
 

@@ -23,14 +23,6 @@ LWMFrame::LWMFrame(Document& document, Session& session, Messages& messages, QWi
       PolyHeightText_(Named_field("PolyHeightText", "Height in metres", "0")),
       ConformOption_(Named<QRadioButton>("ConformOption", "Conform to existing terrain")) {
     Lay_out();
-    connect(LWMlistBox_, &ListBox::Clicked, this, [this] {
-        session_.LastChosen = ListKind::Polygons;
-        Q_EMIT Graphics_outdated();
-    });
-    connect(LWMlistBox_, &ListBox::Double_clicked, this, [this] {
-        session_.LastChosen = ListKind::Polygons;
-        Q_EMIT Show_wanted();
-    });
     connect(ConformOption_, &QRadioButton::toggled, PolyHeightText_, &QLineEdit::setDisabled);
     ConformOption_->setChecked(true);
 }
@@ -57,9 +49,7 @@ LWMPolyResult LWMFrame::Add_LWM_Poly() {
         height = Whole_number_text(height);
         PolyHeightText_->setText(To_qt(height));  // before a warning stands over it
     }
-    LWMPolyResult result = Click_polygon(document_, session_, choice, height, messages_);
-    Q_EMIT Remarked(To_qt(result.StatusLine));
-    return result;
+    return Click_polygon(document_, session_, choice, height, messages_);
 }
 
 void LWMFrame::Refresh() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "lwm/polygon_candidates.h"
 #include "model/text_forms.h"

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <memory>
 #include <system_error>
+#include <utility>
 
 #include "model/encoding.h"
 #include "model/line_writer.h"

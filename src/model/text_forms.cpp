@@ -45,6 +45,12 @@ std::string Int_text(Int16 value) {
     return std::to_string(int{value});
 }
 
+std::string Counted(std::size_t count, std::string_view one, std::string_view several) {
+    const std::string number = std::to_string(count) + " ";
+    if (count == 1) return number + std::string(one);
+    return several.empty() ? number + std::string(one) + "s" : number + std::string(several);
+}
+
 std::string Blank_text(Int16 value) {
     std::array<char, MaxIntText> text;
     const char* const end = Put_blank_text(text.data(), value);

@@ -11,6 +11,12 @@ namespace tidemark {
 // Decimal text without a blank; "-" before a negative number.
 std::string Int_text(Int16 value);
 
+// "1 polygon", "2 polygons"; `several` where it takes more than an "s".
+std::string Counted(std::size_t count, std::string_view one, std::string_view several = {});
+inline std::string Counted(int count, std::string_view one, std::string_view several = {}) {
+    return Counted(static_cast<std::size_t>(count), one, several);
+}
+
 // Blank-prefixed text: a blank before a value that is not negative, "-" before a negative one.
 // Fractions have "." as decimal point, no zero before it (" .8333333") and no trailing zeros.
 std::string Blank_text(Int16 value);

@@ -1,4 +1,5 @@
 // Programs by way of Windows' calls.
+#include <optional>
 #include <string_view>
 #include <utility>
 

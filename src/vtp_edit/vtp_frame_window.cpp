@@ -26,14 +26,6 @@ VTPFrame::VTPFrame(Document& document, Session& session, Messages& messages, QWi
       VTPwidthText_(
           Named_field("VTPwidthText", "Current segment width", To_qt(DefaultVTPWidthText))) {
     Lay_out();
-    connect(VTPlistbox_, &ListBox::Clicked, this, [this] {
-        session_.LastChosen = ListKind::Points;
-        Q_EMIT Graphics_outdated();
-    });
-    connect(VTPlistbox_, &ListBox::Double_clicked, this, [this] {
-        session_.LastChosen = ListKind::Points;
-        Q_EMIT Show_wanted();
-    });
     connect(NewSegment_, &QCheckBox::toggled, this,
             [this](bool checked) { session_.Panel.NewSegment = checked; });
 }

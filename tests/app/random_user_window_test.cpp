@@ -14,7 +14,7 @@
 #include "fakes/window_test.h"
 #include "lwm/kill_list.h"
 #include "lwm/lwm_list.h"
-#include "model/list_selection.h"
+#include "model/vtp_data.h"
 #include "platform/qt_list_box.h"
 #include "vtp_edit/vtp_list.h"
 

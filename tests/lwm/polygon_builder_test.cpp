@@ -2,7 +2,7 @@
 #include "lwm/polygon_builder.h"
 
 #include "fakes/rules_test.h"
-#include "lwm/cell_edges.h"
+#include "lwm/cell_points.h"
 #include "model/text_forms.h"
 
 namespace tidemark {
@@ -30,11 +30,9 @@ static std::string Built(Project& project, CellPoint click = {128, 128}) {
 TEST(PolygonBuilderTest, AStepCrossesTheBoundaryWhereItsLineDoes) {
     Expect_cases("lwm/data/crossings.txt", [](const Given& given) {
         const auto project = Cell_project(given[0]);
-        RecordingMessages messages;
-        CellEdges edges(*project, Cell_session(), messages);
-        edges.Point_in_cell(1);
-        edges.Add_Edge_Crossing(2, false);
-        return Points_text({{edges.EdgePoint(1)}});
+        CellPoints points(*project, Cell_session());
+        points.Point_in_cell(1);
+        return Points_text({{points.Crossing(2)}});
     });
 }
 
