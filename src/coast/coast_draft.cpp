@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
-#include <map>
 
 #include "coast/mend.h"
 
@@ -21,37 +20,6 @@ constexpr int MaxRounds = 40;
 // A ring that goes round less is no island on the map.
 constexpr double LeastTwiceArea = 8;
 
-std::int64_t Turn(Position a, Position b, Position c) {
-    return std::int64_t{b[0] - a[0]} * (c[1] - a[1]) - std::int64_t{b[1] - a[1]} * (c[0] - a[0]);
-}
-
-bool Is_in_box(Position a, Position b, Position place) {
-    for (const std::size_t axis : {0U, 1U})
-        if (place[axis] < std::min(a[axis], b[axis]) || place[axis] > std::max(a[axis], b[axis]))
-            return false;
-    return true;
-}
-
-bool Lies_on(Position place, Position a, Position b) {
-    return Is_in_box(a, b, place) && Turn(a, b, place) == 0;
-}
-
-bool Are_apart(Position a, Position b, Position c, Position d) {
-    for (const std::size_t axis : {0U, 1U})
-        if (std::max(a[axis], b[axis]) < std::min(c[axis], d[axis]) ||
-            std::max(c[axis], d[axis]) < std::min(a[axis], b[axis]))
-            return true;
-    return false;
-}
-
-bool Touch(Position a, Position b, Position c, Position d) {
-    if (Lies_on(a, c, d) || Lies_on(b, c, d) || Lies_on(c, a, b) || Lies_on(d, a, b)) return true;
-    const auto differ = [](std::int64_t one, std::int64_t other) {
-        return (one > 0 && other < 0) || (one < 0 && other > 0);
-    };
-    return differ(Turn(a, b, c), Turn(a, b, d)) && differ(Turn(c, d, a), Turn(c, d, b));
-}
-
 template <class T>
 std::vector<T> Part_of(const std::vector<T>& all, std::size_t first, std::size_t last) {
     return {all.begin() + static_cast<std::ptrdiff_t>(first),
@@ -66,17 +34,6 @@ void Cut_out(std::vector<T>& all, std::size_t first, std::size_t last) {
 
 }  // namespace
 
-struct CoastDraft::Step {
-    Position From, To;
-    std::size_t Line, Chord;
-    bool Ends_chord;  // the next step belongs to the next chord
-};
-
-struct CoastDraft::Conflict {
-    std::size_t Line, Chord;
-    std::size_t OtherLine, OtherChord;  // later in the order of all steps
-};
-
 MapRectangle MapUnits::Rectangle() const {
     return {First[0] - 0.5, First[1] - 0.5, Last[0] + 0.5, Last[1] + 0.5};
 }
@@ -90,8 +47,9 @@ double Twice_area(const std::vector<MapPoint>& points) {
     return sum;
 }
 
-CoastDraft::CoastDraft(std::vector<DraftLine> lines, const MapUnits& map, double tolerance)
-    : map_(map), tolerance_(tolerance), lines_(std::move(lines)) {
+CoastDraft::CoastDraft(std::vector<DraftLine> lines, const MapUnits& map, double tolerance,
+                       TouchingSteps& touching)
+    : map_(map), tolerance_(tolerance), touching_(touching), lines_(std::move(lines)) {
     kept_.resize(lines_.size());
     placed_.resize(lines_.size());
     for (std::size_t line = 0; line < lines_.size(); ++line) Place(line);
@@ -155,50 +113,29 @@ void CoastDraft::Place(std::size_t number) {
 }
 
 // Of all lines, cut at the cell edges.
-std::vector<CoastDraft::Step> CoastDraft::Steps() const {
-    std::vector<Step> steps;
-    for (std::size_t line = 0; line < lines_.size(); ++line) {
+std::vector<CoastStep> CoastDraft::Steps() const {
+    std::vector<CoastStep> steps;
+    for (std::uint32_t line = 0; line < lines_.size(); ++line) {
         const std::vector<Position>& placed = placed_[line];
-        for (std::size_t chord = 0; chord + 1 < placed.size(); ++chord) {
-            const CellPath path = Cut_at_cell_edges({placed[chord], placed[chord + 1]});
+        const std::size_t first = steps.size();
+        for (std::uint32_t chord = 0; chord + 1 < placed.size(); ++chord) {
+            const Position from = placed[chord], to = placed[chord + 1];
+            const auto add = [&](Position a, Position b) {
+                steps.push_back({a, b, line, chord, true, false, false});
+            };
+            if (Cell_of(from) == Cell_of(to)) {
+                add(from, to);
+                continue;
+            }
+            const CellPath path = Cut_at_cell_edges({from, to});
             for (std::size_t i = 0; i + 1 < path.Points.size(); ++i)
-                steps.push_back(
-                    {path.Points[i], path.Points[i + 1], line, chord, i + 2 == path.Points.size()});
+                add(path.Points[i], path.Points[i + 1]);
         }
+        if (steps.size() == first) continue;
+        steps.back().GoesOn = false;
+        steps[first].BeginsRing = steps.back().EndsRing = lines_[line].Line.IsRing;
     }
     return steps;
-}
-
-std::vector<CoastDraft::Conflict> CoastDraft::Conflicts() const {
-    const std::vector<Step> steps = Steps();
-    const auto follows = [&](const Step& a, const Step& b) {
-        if (a.Line != b.Line || a.To != b.From) return false;
-        const std::size_t chords = placed_[a.Line].size() - 1;
-        const std::size_t next =
-            a.Chord + 1 == chords && lines_[a.Line].Line.IsRing ? 0 : a.Chord + 1;
-        return a.Ends_chord ? b.Chord == next : b.Chord == a.Chord;
-    };
-    const auto conflict = [&](const Step& a, const Step& b) {
-        if (Are_apart(a.From, a.To, b.From, b.To)) return false;
-        // Steps that follow one another share a point, and no more unless the line turns back.
-        if (follows(a, b)) return Lies_on(b.To, a.From, a.To) || Lies_on(a.From, b.From, b.To);
-        if (follows(b, a)) return Lies_on(a.To, b.From, b.To) || Lies_on(b.From, a.From, a.To);
-        return Touch(a.From, a.To, b.From, b.To);
-    };
-    std::map<Position, std::vector<std::size_t>> cells;  // the steps that touch each
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        const Position from = Cell_of(steps[i].From), to = Cell_of(steps[i].To);
-        cells[from].push_back(i);
-        if (to != from) cells[to].push_back(i);
-    }
-    std::vector<Conflict> conflicts;
-    for (const auto& [cell, here] : cells)
-        for (std::size_t i = 0; i < here.size(); ++i)
-            for (std::size_t k = i + 1; k < here.size(); ++k) {
-                const Step &a = steps[here[i]], &b = steps[here[k]];
-                if (conflict(a, b)) conflicts.push_back({a.Line, a.Chord, b.Line, b.Chord});
-            }
-    return conflicts;
 }
 
 // Keeps the most significant of the points that the chord leaves out, where that changes anything.
@@ -213,36 +150,39 @@ bool CoastDraft::Keep_more(std::size_t number, std::size_t chord) {
         if (most == first || line.Significances[i % count] > line.Significances[most % count])
             most = i;
     if (most == first || line.Significances[most % count] <= LeastGain) return false;
+    if (line.Significances[most % count] != Endless) is_changed_ = true;
     line.Significances[most % count] = Endless;
     return true;
 }
 
 void CoastDraft::Part_lines() {
     for (int round = 0; round < MaxRounds; ++round) {
-        const std::vector<Conflict> conflicts = Conflicts();
-        if (conflicts.empty()) return;
+        const std::vector<CoastStep> steps = Steps();
+        const std::vector<TouchingSteps::Pair> touching = touching_.Among(steps);
+        if (touching.empty()) return;
         std::vector<bool> changed(lines_.size(), false);
-        for (const auto& [line, chord, other, other_chord] : conflicts) {
-            const bool first = Keep_more(line, chord);
-            const bool second = Keep_more(other, other_chord);
-            if (first) changed[line] = true;
-            if (second) changed[other] = true;
-        }
+        is_changed_ = false;
+        for (const auto& [first, second] : touching)
+            for (const CoastStep& step : {steps[first], steps[second]})
+                if (Keep_more(step.Line, step.Chord)) changed[step.Line] = true;
         // Only where no point is left that could part them.
-        for (const Conflict& conflict : conflicts)
-            if (!changed[conflict.Line] && !changed[conflict.OtherLine] && Separate(conflict))
-                changed[conflict.Line] = changed[conflict.OtherLine] = true;
+        for (const auto& [first, second] : touching) {
+            const CoastStep &one = steps[first], &other = steps[second];
+            if (!changed[one.Line] && !changed[other.Line] && Separate(one, other))
+                is_changed_ = changed[one.Line] = changed[other.Line] = true;
+        }
         // Open lines that cross stay as they are; the check will say so.
-        if (std::find(changed.begin(), changed.end(), true) == changed.end()) return;
-        for (std::size_t line = 0; line < lines_.size(); ++line) Place(line);
+        if (!is_changed_) return;
+        changed.resize(lines_.size(), true);  // with the loops that were cut off
+        for (std::size_t line = 0; line < lines_.size(); ++line)
+            if (changed[line]) Place(line);
     }
 }
 
-bool CoastDraft::Separate(const Conflict& conflict) {
-    const std::size_t line = conflict.Line, other = conflict.OtherLine;
+bool CoastDraft::Separate(const CoastStep& one, const CoastStep& two) {
+    const std::size_t line = one.Line, other = two.Line;
     if (line == other)
-        return Cut_off_loop(line, std::min(conflict.Chord, conflict.OtherChord),
-                            std::max(conflict.Chord, conflict.OtherChord));
+        return Cut_off_loop(line, std::min(one.Chord, two.Chord), std::max(one.Chord, two.Chord));
     const bool first_is_ring = lines_[line].Line.IsRing;
     const bool second_is_ring = lines_[other].Line.IsRing;
     if (!first_is_ring && !second_is_ring) return false;

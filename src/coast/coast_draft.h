@@ -9,6 +9,7 @@
 #include "coast/cell_path.h"
 #include "coast/map_line.h"
 #include "coast/position.h"
+#include "coast/touching_steps.h"
 
 namespace tidemark {
 
@@ -33,7 +34,9 @@ struct MapUnits {
 
 class CoastDraft {
   public:
-    CoastDraft(std::vector<DraftLine> lines, const MapUnits& map, double tolerance);
+    // `touching` may have searched other drafts before, and is quick where they were alike.
+    CoastDraft(std::vector<DraftLine> lines, const MapUnits& map, double tolerance,
+               TouchingSteps& touching);
 
     // Keeps more points where the kept ones let lines touch or cross one another, and where that
     // does not help cuts off what is narrower than a unit: a loop becomes a ring of its own, of two
@@ -51,21 +54,19 @@ class CoastDraft {
     const std::vector<std::string>& Dropped() const { return dropped_; }
 
   private:
-    struct Step;      // between two points of the cut line
-    struct Conflict;  // of two steps
-
     void Place(std::size_t line);
     Position Place_of(const DraftLine& line, std::size_t point) const;
-    std::vector<Step> Steps() const;
-    std::vector<Conflict> Conflicts() const;
+    std::vector<CoastStep> Steps() const;
     bool Keep_more(std::size_t line, std::size_t chord);
     // Both say whether anything has changed.
-    bool Separate(const Conflict& conflict);
+    bool Separate(const CoastStep& one, const CoastStep& two);
     bool Cut_off_loop(std::size_t line, std::size_t first_chord, std::size_t last_chord);
     void Drop(std::size_t line, const std::string& why);
 
     MapUnits map_;
     double tolerance_;
+    TouchingSteps& touching_;
+    bool is_changed_ = false;
     std::vector<DraftLine> lines_;
     // Of each line: the points that are kept, by number, and where they lie.
     std::vector<std::vector<std::size_t>> kept_;

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <functional>
 #include <map>
+#include <memory>
 
 #include "coast/coast_draft.h"
 #include "coast/simplify.h"
@@ -193,8 +194,9 @@ class Laying {
     LaidCoast coast_;
 };
 
-LaidCoast Laid_at(const std::vector<DraftLine>& lines, const MapUnits& map, double tolerance) {
-    CoastDraft draft(lines, map, tolerance);
+LaidCoast Laid_at(const std::vector<DraftLine>& lines, const MapUnits& map, double tolerance,
+                  TouchingSteps& touching) {
+    CoastDraft draft(lines, map, tolerance, touching);
     draft.Part_lines();
     LaidCoast coast = Laying(map, draft).All();
     coast.Tolerance = tolerance;
@@ -248,15 +250,16 @@ LaidCoast Lay_coast(const Project& project, std::span<const CoastLine> lines,
     double low = std::max(std::max(options.Tolerance, LeastGain),
                           Least_tolerance(drafts, options.MostPoints));
     double high = low;
-    LaidCoast laid = Laid_at(drafts, map, high);
+    const auto touching = std::make_unique<TouchingSteps>();
+    LaidCoast laid = Laid_at(drafts, map, high, *touching);
     while (laid.Points > options.MostPoints && high < MaxTolerance) {
         low = high;
         high *= Raise;
-        laid = Laid_at(drafts, map, high);
+        laid = Laid_at(drafts, map, high, *touching);
     }
     for (int i = 0; i < Halvings && low < high; ++i) {
         const double middle = (low + high) / 2;
-        LaidCoast finer = Laid_at(drafts, map, middle);
+        LaidCoast finer = Laid_at(drafts, map, middle, *touching);
         const bool fits = finer.Points <= options.MostPoints;
         (fits ? high : low) = middle;
         if (fits) laid = std::move(finer);
