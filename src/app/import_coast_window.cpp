@@ -169,6 +169,7 @@ void ImportCoast::Read(const QString& path) {
     const std::filesystem::path file(path.toStdU16String());
     CoastFileText_->setText(path);
     Take_lines({}, "Reading " + From_qt(QFileInfo(path).fileName()) + " ...");
+    import_.FileRemarks.clear();
     is_reading_ = true;
     is_cancelled_ = false;
     since_start_.start();
@@ -185,6 +186,8 @@ void ImportCoast::Read(const QString& path) {
         reading = read_(file, {&box, 1}, [this](double part) { return Show_progress(part); });
     }
     if (!isVisible()) return;  // it was closed meanwhile
+    for (const std::string& remark : reading.Remarks)
+        import_.FileRemarks.push_back(Remark_text(file, remark));
     if (reading.Refusal)
         Take_lines({}, Refusal_text(file, *reading.Refusal));
     else if (reading.Lines.empty())

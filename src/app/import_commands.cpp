@@ -37,8 +37,14 @@ std::string Filling_text(const FillPlan& plan) {
                              "imported.";
 }
 
-std::vector<std::string> Remarks_on(const LaidCoast& coast, const ImportResult& result) {
-    std::vector<std::string> remarks = coast.Dropped;
+std::vector<std::string> Remarks_on(const CoastImport& import) {
+    std::vector<std::string> remarks = import.FileRemarks;
+    remarks.insert(remarks.end(), import.Coast.Dropped.begin(), import.Coast.Dropped.end());
+    return remarks;
+}
+
+std::vector<std::string> Remarks_on(const CoastImport& import, const ImportResult& result) {
+    std::vector<std::string> remarks = Remarks_on(import);
     for (const Finding& error : result.Errors) remarks.push_back(Finding_line(error));
     for (const FillStop& stop : result.Filled.Stops)
         remarks.push_back(Cell_text(stop.Cell.Column, stop.Cell.Row) +
@@ -80,7 +86,8 @@ std::optional<std::string> Choose_coast_file(Platform& platform, const std::stri
 }
 
 bool Is_coast_file(std::string_view path) {
-    return std::any_of(CoastExtensions.begin(), CoastExtensions.end(),
+    return Has_extension(path, ".kmz") ||
+           std::any_of(CoastExtensions.begin(), CoastExtensions.end(),
                        [&](std::string_view each) { return Has_extension(path, each); });
 }
 
@@ -93,16 +100,17 @@ std::optional<double> Take_tolerance(std::string_view text) {
 ImportPreview Preview_import(const Project& project, const CoastImport& import) {
     const LaidCoast& coast = import.Coast;
     if (coast.Lines.empty())
-        return {"Nothing of this file can be laid into the map.", coast.Dropped, {}, false};
+        return {"Nothing of this file can be laid into the map.", Remarks_on(import), {}, false};
     const auto copy = std::make_unique<Project>(project);
     const ImportResult result = Import_coast(*copy, coast, import.Options);
     MapMarks marks{New_polygons(project, *copy), Coast_lines(project, coast), {}};
-    if (!result.Refusal.empty()) return {result.Refusal, coast.Dropped, std::move(marks), false};
+    if (!result.Refusal.empty())
+        return {result.Refusal, Remarks_on(import), std::move(marks), false};
     std::string counts = Laid_text(coast, MaxVTPCount - project.VTPCount);
     if (import.Options.ClearCells) counts += "\n" + Cleared_text(result.Cleared);
     if (import.Options.FillWater || import.Options.FillLand)
         counts += "\n" + Filling_text(result.Filled);
-    return {counts, Remarks_on(coast, result), std::move(marks), true};
+    return {counts, Remarks_on(import, result), std::move(marks), true};
 }
 
 ImportResult Import_coast_file(Document& document, Session& session, const CoastImport& import) {

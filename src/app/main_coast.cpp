@@ -17,7 +17,9 @@ namespace {
 constexpr const char* Usage =
     "Usage: tidemark-coast [OPTION]... (--at LAT,LON | --lod8 X,Y | --all) --output-folder DIR\n"
     "                      COAST...\n"
-    "Makes Tidemark projects of coast files: GeoJSON, shapefiles, KML, GPX.\n"
+    "Makes Tidemark projects of coast files: GeoJSON, shapefiles, KML, GPX. A project that is "
+    "newer\n"
+    "than they are and was made with the same options is passed over.\n"
     "\n"
     "  --at LAT,LON         the LOD8 cell of a place in degrees, such as 37.8,-122.4\n"
     "  --lod8 X,Y           an LOD8 cell, 0,0 to 767,511; both can be given several times\n"
