@@ -14,10 +14,14 @@ std::string Count_text(std::size_t count, const char* what) {
 }
 
 // Whether an end near its cell's edge belongs on it. Where the coastline has crossed the edge right
-// there, it would only come back to that place.
+// there, it would only come back to that place; and one that goes on from another's end would be in
+// the way of that.
 bool Belongs_on_edge(const Project& p, const SurveyedCell& cell, int end) {
     const auto place = Place_on_edge(p, end);
-    return place &&
+    const auto shares_place = [&](int other) {
+        return other != end && VTP_position(p, other) == VTP_position(p, end);
+    };
+    return place && std::none_of(cell.Ends.begin(), cell.Ends.end(), shares_place) &&
            std::none_of(cell.Crossings.begin(), cell.Crossings.end(), [&](const auto& crossing) {
                return Position{First_unit(cell.Cell.Column) + int{crossing.Place.X},
                                First_unit(cell.Cell.Row) + int{crossing.Place.Y}} == *place;
