@@ -41,7 +41,7 @@ void Check_outline(const Project& p, int polygon, const std::vector<Outline>& ca
     if (candidates.empty()) {
         found.Text += ", and none can be built now; mend the coastlines first";
     } else if (can_be_rebuilt) {
-        found.Text += " now; delete it and click it again";
+        found.Text += " now; Mend builds it again";
         found.Mending = Remedy::Rebuild;
     } else {
         found.Text +=
