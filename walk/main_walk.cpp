@@ -3,6 +3,7 @@
 #include <exception>
 
 #include <QFileInfo>
+#include <QIcon>
 
 #include "app/qt_application.h"
 #include "walk/driver.h"
@@ -11,6 +12,7 @@
 int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const tidemark::TidemarkApplication application(argc, argv);
+    QGuiApplication::setWindowIcon(QIcon(TIDEMARK_SAMPLE_DIR "/../packaging/icons/64.png"));
     if (argc != 2) {
         std::fputs("Usage: tidemark-walk OUT\n", stderr);
         return 2;
