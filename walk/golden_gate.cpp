@@ -268,6 +268,7 @@ void Walk::Save_and_compile(const char* entry, const QString& name, const QStrin
 void Walk::Import_the_coast() {
     while (Now().VTPCount > 0) Click(Control<QWidget>(window_, "EditUndoButton"));
     Click(Control<QWidget>(window_, "ZoomWholeButton"));
+    Take_picture("map");
     Plan plan;
     plan.Then([&](QWidget& dialog) {
         Click(Control<QPushButton>(dialog, "CoastFileButton"));  // the next step comes up inside
@@ -376,6 +377,10 @@ void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
          "drawing-by-keys.png", "import-coast.png", "imported.png", "main-window.png",
          "coast-check.png", "coast-filled.png", "exit-question.png", "recovery.png"},
         "strip.png");
+    constexpr int in_a_row = 3;
+    Save_picture_strip({"map.png", "import-coast.png", "imported.png", "coast-check.png",
+                        "coast-filled.png", "copied.png"},
+                       "whole-way.png", in_a_row);
 }
 
 }  // namespace tidemark

@@ -4,6 +4,7 @@
 #include <exception>
 
 #include <QFileInfo>
+#include <QIcon>
 
 #include "app/qt_application.h"
 #include "walk/driver.h"
@@ -13,6 +14,7 @@
 int main(int argc, char** argv) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const tidemark::TidemarkApplication application(argc, argv);
+    QGuiApplication::setWindowIcon(QIcon(TIDEMARK_SAMPLE_DIR "/../packaging/icons/64.png"));
     const bool is_to_be_killed = argc == 3 && argv[2] == tidemark::UntilKilled;
     if (argc != 2 && !is_to_be_killed) {
         std::fputs("Usage: tidemark-walk OUT\n", stderr);
