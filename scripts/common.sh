@@ -13,7 +13,7 @@ build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev
 walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev gdal-bin"
 windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils wine wine64 zip"
-package_packages="appstream desktop-file-utils dpkg-dev groff libxml2-utils lintian"
+package_packages="appstream desktop-file-utils dpkg-dev git groff libxml2-utils lintian x11-utils xauth xvfb"
 fuzz_packages="clang libclang-rt-14-dev"
 
 # Where the Qt that the Windows edition is linked with is kept.
@@ -55,11 +55,11 @@ build_preset() {
     local preset=$1
     shift
     say "Building the preset $preset"
-    cmake --preset "$preset" >build-"$preset".log 2>&1 || {
-        cat build-"$preset".log
+    local log
+    log=$(cmake --preset "$preset" 2>&1) || {
+        echo "$log"
         fail "cmake could not configure the preset $preset"
     }
-    rm -f build-"$preset".log
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build of the preset $preset failed"
 }
 
@@ -78,5 +78,17 @@ play_walk() {
         build/dev/bin/tidemark-walk "$1"' walk "$1" || fail "the walk through the windows failed"
 }
 
-# Without a display, Qt wants a folder of its own for the run.
-export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$(mktemp -d)}
+# The moment that a package's files carry: the commit's, so that each build of it is the same. Who
+# has it from elsewhere than git says it in SOURCE_DATE_EPOCH.
+export_source_date() {
+    SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null)} ||
+        fail "not a git checkout: set SOURCE_DATE_EPOCH to the seconds of the release"
+    export SOURCE_DATE_EPOCH
+}
+
+# Without a display, Qt wants a folder of its own for the run: one for all runs.
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+    XDG_RUNTIME_DIR=${TMPDIR:-/tmp}/tidemark-runtime-$(id -u)
+    mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+    export XDG_RUNTIME_DIR
+fi
