@@ -34,8 +34,10 @@ void BackgroundDialogs::Reload_later() {
 }
 
 void BackgroundDialogs::Reload() {
-    if (document_.Now().BackgroundLoaded)
-        Reload_background(document_, session_, platform_.messages, Screen().Show_image);
+    if (!document_.Now().BackgroundLoaded) return;
+    Reload_background(document_, session_, platform_.messages, Screen().Show_image);
+    // While a command waits for its dialog, nothing else shows what it has changed so far.
+    if (document_.Is_in_step()) Q_EMIT Drawing_outdated();
 }
 
 BGproperties& BackgroundDialogs::Background_properties() {

@@ -28,6 +28,9 @@ class BackgroundDialogs : public QObject {
     // up must not wait for its answer in the middle of a resize.
     void Reload_later();
 
+  Q_SIGNALS:
+    void Drawing_outdated();
+
   private:
     MapScreen Screen();
     void Reload();

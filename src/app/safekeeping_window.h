@@ -34,6 +34,7 @@ class Safekeeping : public QObject {
 
     // The desktop is about to close the windows, and nobody is there to answer.
     void Session_ends();
+    void Session_goes_on() { is_session_ending_ = false; }
     bool Is_session_ending() const { return is_session_ending_; }
 
     // The program ends in good order.

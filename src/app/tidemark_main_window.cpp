@@ -85,6 +85,8 @@ void TidemarkMain::Wire_map() {
         display_.Show_pointer();
     });
     connect(&editing_, &MapEditing::Point_selected, this, [this] { display_.Redraw(); });
+    connect(&background_, &BackgroundDialogs::Drawing_outdated, this,
+            [this] { display_.Redraw(); });
     connect(&editing_, &MapEditing::Remarked, status_line_, &StatusLine::Remark);
 }
 

@@ -100,6 +100,7 @@ void TidemarkMain::FileSaveAs_Click() {
 }
 
 void TidemarkMain::FileExit_Click() {
+    safekeeping_.Session_goes_on();  // who gives a command has stayed
     close();
 }
 

@@ -52,10 +52,15 @@ std::string Counted(std::size_t count, std::string_view one, std::string_view se
 }
 
 std::string Blank_text(Int16 value) {
-    std::array<char, 8> text{' '};
-    char* const start = value < 0 ? text.data() : text.data() + 1;
-    const char* const end = std::to_chars(start, text.data() + text.size(), int{value}).ptr;
+    std::array<char, MaxIntText> text;
+    const char* const end = Put_blank_text(text.data(), value);
     return {text.data(), static_cast<std::size_t>(end - text.data())};
+}
+
+char* Put_blank_text(char* at, Int16 value) {
+    char* const start = value < 0 ? at : at + 1;
+    *at = ' ';
+    return std::to_chars(start, at + MaxIntText, int{value}).ptr;
 }
 
 std::string Blank_text(float value) {
@@ -96,6 +101,14 @@ Int16 Int_value(std::string_view text) {
     const auto [end, error] = std::from_chars(number.data(), last, whole);
     if (error == std::errc() && end == last) return whole;
     return Round_half_even(Numeric_value(text));
+}
+
+std::string Whole_number_text(std::string_view text) {
+    try {
+        return Int_text(Int_value(text));
+    } catch (const Overflow&) {
+        return std::string(text);
+    }
 }
 
 }  // namespace tidemark

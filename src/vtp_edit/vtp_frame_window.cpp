@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "model/text_forms.h"
 #include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 #include "vtp_edit/vtp_commands.h"
@@ -67,7 +68,10 @@ void VTPFrame::Start_new_segment() {
 }
 
 std::optional<Int16> VTPFrame::Typed_width() {
-    const WidthResult result = Take_width(From_qt(VTPwidthText_->text()), messages_);
+    // Before a warning stands over it.
+    const std::string text = Whole_number_text(From_qt(VTPwidthText_->text()));
+    VTPwidthText_->setText(To_qt(text));
+    const WidthResult result = Take_width(text, messages_);
     VTPwidthText_->setText(To_qt(result.Text));
     return result.Width;
 }

@@ -3,6 +3,7 @@
 
 #include "fakes/rules_test.h"
 #include "lwm/cell_points.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -68,10 +69,10 @@ TEST(PolygonBuilderTest, TheRecordHoldsCellTypeAndHeight) {
         Session session = Cell_session();
         session.DrawMode = LandPolygon;
         RecordingMessages messages;
-        const auto [text, is_added, remark, is_by_coast] =
-            Add_LWM_Poly(*project, session, messages, choice, typed);
-        EXPECT_FALSE(is_by_coast);
-        if (!is_added) return text + " " + messages.Said();
+        const std::string text = Whole_number_text(typed);  // as the height box shows it
+        const LWMPolyResult result = Add_LWM_Poly(*project, session, messages, choice, typed);
+        EXPECT_FALSE(result.IsRefusedByCoast);
+        if (!result.Added) return text + " " + messages.Said();
         EXPECT_EQ(project->LWMType(1), LandPolygon);
         EXPECT_EQ(project->LWMCell(1, 0), PictureColumn);
         EXPECT_EQ(project->LWMCell(1, 1), PictureRow);
