@@ -72,6 +72,7 @@ std::vector<NarrowPlace> Narrow_places(const std::vector<CoastStep>& steps,
         }
     }
     std::vector<NarrowPlace> places;
+    places.reserve(narrowest.size());
     for (const auto& [cell, narrow] : narrowest) places.push_back(narrow.Place);
     return places;
 }
