@@ -55,11 +55,11 @@ build_preset() {
     local preset=$1
     shift
     say "Building the preset $preset"
-    cmake --preset "$preset" >build-"$preset".log 2>&1 || {
-        cat build-"$preset".log
+    local log
+    log=$(cmake --preset "$preset" 2>&1) || {
+        echo "$log"
         fail "cmake could not configure the preset $preset"
     }
-    rm -f build-"$preset".log
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build of the preset $preset failed"
 }
 
@@ -76,5 +76,9 @@ play_walk() {
         build/dev/bin/tidemark-walk "$1"' walk "$1" || fail "the walk through the windows failed"
 }
 
-# Without a display, Qt wants a folder of its own for the run.
-export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$(mktemp -d)}
+# Without a display, Qt wants a folder of its own for the run: one for all runs.
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+    XDG_RUNTIME_DIR=${TMPDIR:-/tmp}/tidemark-runtime-$(id -u)
+    mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+    export XDG_RUNTIME_DIR
+fi
