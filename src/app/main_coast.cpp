@@ -1,6 +1,5 @@
 // tidemark-coast: makes projects of coast files from the command line.
 #include <charconv>
-#include <cmath>
 #include <getopt.h>
 #include <iostream>
 #include <optional>

@@ -28,7 +28,7 @@ struct TidemarkMain::MenuEntry {
     const char* Caption;  // "-": a separator line
     void (TidemarkMain::*Handler)() = nullptr;
     QKeySequence::StandardKey Shortcut = QKeySequence::UnknownKey;
-    // Where an entry is kept that is enabled only in the course of time; it starts disabled.
+    // Where an entry is kept that is enabled later only; it starts disabled.
     QAction* ChangingEntries::*Kept = nullptr;
 };
 

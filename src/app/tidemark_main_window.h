@@ -61,7 +61,7 @@ class TidemarkMain : public QMainWindow {
     struct Menu;
     static const std::vector<Menu>& Menus();
 
-    // The entries that are enabled and disabled in the course of time.
+    // The entries that are enabled and disabled while the program runs.
     struct ChangingEntries {
         QAction *FileSave, *BackgroundProperties, *LWMsave, *VTPsave;
     };

@@ -2,7 +2,6 @@
 // come to lie, and what is done where lines would touch.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 

@@ -31,7 +31,7 @@ struct CoastPlace {
     std::string Text() const;
 };
 
-// Within +/-180 and 90 degrees, but for a rounding.
+// Within +/-180 and 90 degrees, up to a rounding error.
 bool Is_in_degrees(double longitude, double latitude);
 
 // What is wrong with those that are not.
@@ -42,11 +42,11 @@ std::string Beyond_degrees_text(double longitude, double latitude);
 enum class CoastRole : std::uint8_t { Line, OuterRing, Hole };
 
 // How the land side of lines is known: not at all; of each ring by its role and direction; or of
-// the rings of one polygon whose roles are not told. The largest of them is an outer ring then, and
+// the rings of one polygon whose roles are unknown. The largest of them is an outer ring then, and
 // those that run the other way are holes.
 enum class CoastSides : std::uint8_t { None, ByRole, ByLargest };
 
-// Is told each segment of coast, among them those of lines that are dropped in the end. The
+// Receives each segment of coast, among them those of lines that are dropped in the end. The
 // longitudes are at most a turn beyond +/-180.
 using SegmentWatch = std::function<void(const CoastPosition& from, const CoastPosition& to)>;
 

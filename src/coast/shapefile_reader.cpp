@@ -4,7 +4,6 @@
 #include <array>
 #include <bit>
 #include <cctype>
-#include <cmath>
 #include <cstdint>
 #include <memory>
 #include <optional>

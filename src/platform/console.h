@@ -15,7 +15,7 @@ std::vector<std::string> Console_arguments(int argc, char** argv);
 // program. The argument itself when it fits no file, and wherever the shell has done it.
 std::vector<std::string> Files_meant(const std::string& argument);
 
-// As long as the result is kept, the console takes what is printed for UTF-8, where it can be told.
+// As long as the result is kept, the console takes what is printed as UTF-8, where it can be set.
 [[nodiscard]] std::shared_ptr<void> Console_in_utf8();
 
 }  // namespace tidemark

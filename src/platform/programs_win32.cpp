@@ -1,6 +1,5 @@
 // Programs by way of Windows' calls.
 #include <string_view>
-#include <utility>
 
 #include "platform/programs.h"
 #include "platform/win32_handle.h"
