@@ -93,7 +93,7 @@ class CoastCompanion {
         return refusal_.empty() || Refuse(refusal_);
     }
 
-    // Until a file is refused, which is not told before the threads are at their end.
+    // Until a file is refused, which is reported when the threads are at their end.
     void Share_out(std::span<const Touched> cells) {
         CoastWorkers workers(
             task_.Threads, [this](const CellWork& cell) { return Make_projects(cell); },

@@ -12,7 +12,7 @@
 namespace tidemark {
 
 // While it is on, it takes the keys for the cross from the map, and does with it what a mouse would
-// do there; assistive tools are told where the cross is. A mouse that moves leaves the cross where
+// do there; assistive tools can read where the cross is. A mouse that moves leaves the cross where
 // it is. Everything is left to the map while it is off.
 class KeyDrawing : public QObject {
     Q_OBJECT

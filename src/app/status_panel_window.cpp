@@ -49,7 +49,7 @@ void Put_side_by_side(QBoxLayout& column, QWidget* upper, QWidget* lower, int st
     column.insertLayout(place, row, stretch);
 }
 
-// What assistive tools are told of the panel: by itself Qt calls only dialogs and main windows so.
+// What assistive tools call the panel: by itself Qt calls only dialogs and main windows so.
 QAccessibleInterface* Window_interface(const QString& class_name, QObject* object) {
     if (class_name != QLatin1String(Status::staticMetaObject.className())) return nullptr;
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);

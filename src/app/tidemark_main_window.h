@@ -53,7 +53,7 @@ class TidemarkMain : public QMainWindow {
     struct MenuEntry;
     struct Menu;
 
-    // The entries that are enabled and disabled in the course of time.
+    // The entries that are enabled and disabled while the program runs.
     struct ChangingEntries {
         QAction *FileSave, *BackgroundProperties, *LWMsave, *VTPsave;
     };

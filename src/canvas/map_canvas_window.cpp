@@ -53,7 +53,7 @@ void MapCanvas::Show_at(const MapScale& scale) {
     const bool is_zoomed = scale.Zoom() != scale_.Zoom();
     scale_ = scale;
     const ViewSize size = scale.Shown_size({Image_size().width(), Image_size().height()});
-    // All of it is painted anew. Of an opaque widget Qt would first move what is on the screen.
+    // All of it is painted again. Of an opaque widget Qt would first move what is on the screen.
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     setGeometry(-scale.Left(), -scale.Top(), size.Width, size.Height);
     setAttribute(Qt::WA_OpaquePaintEvent);

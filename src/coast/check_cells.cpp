@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstdlib>
 
 #include "coast/cell_path.h"
 #include "coast/check_parts.h"

@@ -28,11 +28,11 @@ namespace tidemark {
 enum class CoastRole : std::uint8_t { Line, OuterRing, Hole };
 
 // How the land side of lines is known: not at all; of each ring by its role and direction; or of
-// the rings of one polygon whose roles are not told. The largest of them is an outer ring then, and
+// the rings of one polygon whose roles are unknown. The largest of them is an outer ring then, and
 // those that run the other way are holes.
 enum class CoastSides : std::uint8_t { None, ByRole, ByLargest };
 
-// Is told each segment of coast, among them those of lines that are dropped in the end. The
+// Receives each segment of coast, among them those of lines that are dropped in the end. The
 // longitudes are at most a turn beyond +/-180.
 using SegmentWatch = std::function<void(const CoastPosition& from, const CoastPosition& to)>;
 

@@ -101,7 +101,7 @@ class KmlReader : public XmlReader {
     bool in_polygon_ = false, in_hole_ = false, in_coordinates_ = false;
     bool passes_tracks_over_ = false;
     Shape shape_ = Shape::None;
-    std::string position_;  // as much as has come of it
+    std::string position_;  // as much of it as was read
 };
 
 }  // namespace

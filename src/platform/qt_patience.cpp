@@ -76,7 +76,7 @@ void QtPatience::Begin() {
         cancel_button_->setFocusPolicy(Qt::NoFocus);  // the keyboard has Esc, and stays where it is
         connect(cancel_button_, &QPushButton::clicked, this, &QtPatience::Cancel);
     }
-    // A higher status bar would leave the map less room, and have it loaded anew.
+    // A higher status bar would leave the map less room, and have it loaded again.
     cancel_button_->setFixedHeight(status_bar_.fontMetrics().height());
     status_bar_.addPermanentWidget(cancel_button_);
     cancel_button_->show();
