@@ -7,6 +7,7 @@
 #include <QSessionManager>
 #include <QSocketNotifier>
 #include <QTimer>
+#include <QWidget>
 
 #include "app/project_commands.h"
 #include "app/recovery_commands.h"
