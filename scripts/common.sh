@@ -63,14 +63,16 @@ build_preset() {
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build of the preset $preset failed"
 }
 
-# Plays the sample through the real windows on a virtual display; all that it makes goes to $1.
+# Plays the sample through the real windows on a virtual display, at the scale factor $2 (1); all
+# that it makes goes to $1.
 play_walk() {
+    local scale=${2:-1}
     install_packages $build_packages $walk_packages
     build_preset dev tidemark tidemark-walk
     say "Playing the sample through the real windows, on a virtual display"
     rm -rf "$1"
     mkdir -p "$1"
-    xvfb-run -a -s "-screen 0 1280x860x24" bash -c '
+    QT_SCALE_FACTOR=$scale xvfb-run -a -s "-screen 0 $((1280 * scale))x$((860 * scale))x24" bash -c '
         openbox >/dev/null 2>&1 &
         sleep 1 # for the window manager to take over the display
         build/dev/bin/tidemark-walk "$1"' walk "$1" || fail "the walk through the windows failed"

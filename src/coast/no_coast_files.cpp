@@ -10,6 +10,10 @@ CoastFileReading Read_coast_file(const std::filesystem::path&, std::span<const G
     return reading;
 }
 
+std::string Remark_text(const std::filesystem::path&, const std::string& remark) {
+    return remark;
+}
+
 std::string Refusal_text(const std::filesystem::path& path, const CoastRefusal& refusal) {
     const std::u8string name = path.filename().u8string();
     return std::string(name.begin(), name.end()) + ": " + refusal.What;
