@@ -62,12 +62,11 @@ void Build(benchmark::State& state, const Coastlines& cell) {
 
 void Ask_for_the_cell(benchmark::State& state, const Coastlines& cell) {
     const auto project = Full_project(cell);
-    RecordingMessages messages;
-    CellEdges edges(*project, Cell_session(), messages);
+    CellPoints points(*project, Cell_session());
     for (auto _ : state) {
         int in_cell = 0;
         for (int i = 1; i <= project->VTPCount; ++i)
-            if (edges.Point_in_cell(i)) ++in_cell;
+            if (points.Point_in_cell(i)) ++in_cell;
         benchmark::DoNotOptimize(in_cell);
     }
 }

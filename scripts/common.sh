@@ -15,7 +15,7 @@ build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev
 walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev gdal-bin"
 windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils msitools wine wine64 wixl zip"
-package_packages="appstream desktop-file-utils dpkg-dev groff libxml2-utils lintian"
+package_packages="appstream desktop-file-utils dpkg-dev git groff libxml2-utils lintian x11-utils xauth xvfb"
 fuzz_packages="clang libclang-rt-14-dev"
 
 # Where the Qt and the libraries that the Windows edition is linked with are kept.
@@ -86,26 +86,40 @@ build_preset() {
     local preset=$1
     shift
     say "Building the preset $preset"
-    cmake --preset "$preset" >build-"$preset".log 2>&1 || {
-        cat build-"$preset".log
+    local log
+    log=$(cmake --preset "$preset" 2>&1) || {
+        echo "$log"
         fail "cmake could not configure the preset $preset"
     }
-    rm -f build-"$preset".log
     cmake --build --preset "$preset" ${1:+--target "$@"} || fail "the build of the preset $preset failed"
 }
 
-# Plays the sample through the real windows on a virtual display; all that it makes goes to $1.
+# Plays the sample through the real windows on a virtual display, at the scale factor $2 (1); all
+# that it makes goes to $1.
 play_walk() {
+    local scale=${2:-1}
     install_packages $build_packages $walk_packages
     build_preset dev tidemark tidemark-walk
     say "Playing the sample through the real windows, on a virtual display"
     rm -rf "$1"
     mkdir -p "$1"
-    xvfb-run -a -s "-screen 0 1280x860x24" bash -c '
+    QT_SCALE_FACTOR=$scale xvfb-run -a -s "-screen 0 $((1280 * scale))x$((860 * scale))x24" bash -c '
         openbox >/dev/null 2>&1 &
         sleep 1 # for the window manager to take over the display
         build/dev/bin/tidemark-walk "$1"' walk "$1" || fail "the walk through the windows failed"
 }
 
-# Without a display, Qt wants a folder of its own for the run.
-export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$(mktemp -d)}
+# The moment that a package's files carry: the commit's, so that each build of it is the same. Who
+# has it from elsewhere than git says it in SOURCE_DATE_EPOCH.
+export_source_date() {
+    SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null)} ||
+        fail "not a git checkout: set SOURCE_DATE_EPOCH to the seconds of the release"
+    export SOURCE_DATE_EPOCH
+}
+
+# Without a display, Qt wants a folder of its own for the run: one for all runs.
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+    XDG_RUNTIME_DIR=${TMPDIR:-/tmp}/tidemark-runtime-$(id -u)
+    mkdir -p -m 700 "$XDG_RUNTIME_DIR"
+    export XDG_RUNTIME_DIR
+fi

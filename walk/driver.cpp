@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -48,13 +49,66 @@ void Press(QWidget& control, Qt::Key key) {
     QTest::keyClick(&control, key);
 }
 
-// A move to where the pointer is already would not be reported.
+namespace {
+
+// Off screen there is none.
+bool Has_real_pointer() {
+    return QGuiApplication::platformName() != "offscreen";
+}
+
+// Watches for the display's pointer to be seen at a place of a control: within a pixel of it, as a
+// window on a scaled display can begin in the middle of one.
+class Arrival : public QObject {
+  public:
+    Arrival(QWidget& control, QPoint place) : place_(place) { control.installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseMove)
+            is_there_ =
+                (static_cast<QMouseEvent*>(event)->position() - place_).manhattanLength() <= 1;
+        return false;
+    }
+    bool Is_there() const { return is_there_; }
+
+  private:
+    const QPointF place_;
+    bool is_there_ = false;
+};
+
+// To the pixel, and after all that is still to be told.
+void Tell_of_move(QWidget& control, QPoint place) {
+    QCoreApplication::processEvents();
+    QMouseEvent move(QEvent::MouseMove, place, control.mapToGlobal(place), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&control, &move);
+}
+
+}  // namespace
+
+void Move_to(QWidget& control, QPoint place) {
+    if (Has_real_pointer()) {
+        const Arrival arrival(control, place);
+        // A move to where the pointer is already would not be reported.
+        for (const QPoint off : {QPoint(3, 3), QPoint(0, 0)})
+            QCursor::setPos(control.mapToGlobal(place + off));
+        if (!QTest::qWaitFor([&] { return arrival.Is_there(); }))
+            throw std::runtime_error("the mouse did not come to " +
+                                     control.objectName().toStdString());
+    }
+    Tell_of_move(control, place);
+}
+
+void Park_mouse() {
+    if (!Has_real_pointer()) return;
+    QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight());
+    // The display answers after all that it had to tell of before.
+    if (QApplication::widgetAt(QCursor::pos()))
+        throw std::runtime_error("a window lies where the mouse is to be parked");
+    QCoreApplication::processEvents();
+}
+
 void Click_at(QWidget& control, QPoint place, Qt::MouseButton button) {
-    QTest::mouseMove(&control, place + QPoint(1, 1));
-    QTest::mouseMove(&control, place);
-    // A real pointer is on its way there; what it tells of that must not come after the click.
-    constexpr int arriving = 100;  // milliseconds
-    if (QGuiApplication::platformName() != "offscreen") QTest::qWait(arriving);
+    Move_to(control, place);
     QTest::mouseClick(&control, button, {}, place);
 }
 

@@ -25,6 +25,11 @@ T& Control(const QWidget& root, const QString& path);
 // Clicks and keys at the middle of a control.
 void Click(QWidget& control, Qt::MouseButton button = Qt::LeftButton);
 void Press(QWidget& control, Qt::Key key);
+// Moves the mouse to a place in a control that is not covered, and waits until the control has seen
+// it there. Throws std::runtime_error when it does not.
+void Move_to(QWidget& control, QPoint place);
+// Moves it off all windows, so that nothing that comes and goes under it is taken for a move.
+void Park_mouse();
 // Moves the mouse to a place in a control and clicks there.
 void Click_at(QWidget& control, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 // Replaces the text of an edit field by typing.

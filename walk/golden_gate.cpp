@@ -1,7 +1,5 @@
 #include "walk/golden_gate.h"
 
-#include <stdexcept>
-
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
@@ -10,10 +8,13 @@
 #include <QRadioButton>
 #include <QScrollBar>
 
+#include "walk/check.h"
 #include "walk/driver.h"
 #include "walk/keys_only.h"
+#include "walk/killed_editor.h"
 #include "walk/mended_coast.h"
 #include "walk/picture_strip.h"
+#include "walk/there_and_back.h"
 
 namespace tidemark {
 
@@ -29,10 +30,6 @@ constexpr MapPlace shore[] = {{23, 14, 0, 116},   {23, 14, 12, 88},   {23, 14, 2
                               {27, 14, 60, 88},   {27, 14, 116, 88},  {27, 14, 252, 232}};
 constexpr MapPlace bridge[] = {{22, 14, 252, 136}, {22, 12, 196, 244}, {22, 12, 116, 80}};
 constexpr int first_column = 23, last_column = 27, shore_row = 14;
-
-void Check(bool holds, const QString& what) {
-    if (!holds) throw std::runtime_error(("the walk: " + what).toStdString());
-}
 
 void Save_picture(const QList<QWidget*>& windows, const QString& name) {
     constexpr int settling = 200;  // milliseconds for the windows to be painted
@@ -72,6 +69,9 @@ class Walk {
     }
     void Import_the_coast();
     void Open_the_sample();
+    void Undo_and_redo() {
+        Undo_and_redo_everything(window_, [this] { return Saved_files(); });
+    }
     void Exit_through_the_question();
 
   private:
@@ -85,6 +85,7 @@ class Walk {
     void Click_map(const MapPlace& place, Qt::MouseButton button = Qt::LeftButton);
     void Move_point(const MapPlace& near, int in_cell_x, const QString& picture);
     void Save_file(const char* entry, const QString& name);
+    QByteArrayList Saved_files();
     void Save_and_compile(const char* entry, const QString& name, const QString& picture);
 
     TidemarkMain& window_;
@@ -94,9 +95,10 @@ class Walk {
 
 // Scrolls to the place unless it is in view, and away from the window's edges.
 QPoint Walk::Pixel(const MapPlace& place) {
+    const double zoom = Control<MapView>(window_, "MapView").Scale().Zoom();
     const double x = place.Column * CellSizeVTP + place.X;
     const double y = place.Row * CellSizeVTP + place.Y;
-    const QPoint pixel(qRound(x * Now().ScaleX), qRound(y * Now().ScaleY));
+    const QPoint pixel(qRound(x * Now().ScaleX * zoom), qRound(y * Now().ScaleY * zoom));
     if (!canvas_.visibleRegion().contains(pixel)) Scroll_to(pixel - QPoint(200, 200));
     return pixel;
 }
@@ -266,6 +268,7 @@ void Walk::Save_and_compile(const char* entry, const QString& name, const QStrin
 void Walk::Import_the_coast() {
     while (Now().VTPCount > 0) Click(Control<QWidget>(window_, "EditUndoButton"));
     Click(Control<QWidget>(window_, "ZoomWholeButton"));
+    Take_picture("map");
     Plan plan;
     plan.Then([&](QWidget& dialog) {
         Click(Control<QPushButton>(dialog, "CoastFileButton"));  // the next step comes up inside
@@ -296,9 +299,39 @@ void Walk::Open_the_sample() {
     Save_file("VTPsave", "golden-gate-VTP.asm");
 }
 
+// The project and both its assembler files, saved under the names that they have; the first line
+// of the project tells when that was.
+QByteArrayList Walk::Saved_files() {
+    Plan plan;
+    plan.Then_answer(QMessageBox::Yes).Then_answer();
+    Choose_entry(window_, "FileMenu", "FileSave");
+    plan.Finish();
+    Save_file("VTPsave", "golden-gate-VTP.asm");
+    Save_file("LWMsave", "golden-gate-LWM.asm");
+    QByteArrayList contents;
+    for (const char* const name :
+         {"golden-gate.TDM", "golden-gate-VTP.asm", "golden-gate-LWM.asm"}) {
+        QFile file(name);
+        Check(file.open(QIODevice::ReadOnly), QString(name) + " cannot be read");
+        if (contents.empty()) file.readLine();
+        contents << file.readAll();
+    }
+    return contents;
+}
+
 // The click adds a point, which Exit then asks about; No goes back to the map.
 void Walk::Exit_through_the_question() {
+    Choose_mode("Coastline (sand), no waves");
+    Click(Control<QWidget>(window_, "ZoomInButton"));
     Click_map({22, 14, 128, 128});
+    const auto hits = [&](int point, int axis, int cell) {
+        return qAbs(Now().VTPPoint(point, axis) - (FirstVTP + cell * CellSizeVTP + 128)) <= 1;
+    };
+    bool is_there = false;
+    for (int i = 1; i <= Now().VTPCount; ++i) is_there |= hits(i, 0, 22) && hits(i, 1, 14);
+    Check(is_there, "the last click has landed beside its place");
+    Click(Control<QWidget>(window_, "ZoomResetButton"));
+    Scroll_to({700, 500});
     Plan plan;
     plan.Then([&](QWidget& question) {
         Save_picture({&window_, &panel_, &question}, "exit-question");
@@ -335,13 +368,19 @@ void Play_golden_gate(TidemarkMain& window, const WalkFolders& folders) {
     walk.Import_the_coast();
     walk.Open_the_sample();
     walk.Mend_and_fill();
+    walk.Undo_and_redo();
     walk.Exit_through_the_question();
+    Kill_and_recover(Save_picture);
     Save_picture_strip(
         {"empty.png", "background-properties.png", "cell-calculator.png", "drawing.png",
          "edit-point.png", "polygons.png", "preferences.png", "compiling.png", "copied.png",
          "drawing-by-keys.png", "import-coast.png", "imported.png", "main-window.png",
-         "coast-check.png", "coast-filled.png", "exit-question.png"},
+         "coast-check.png", "coast-filled.png", "exit-question.png", "recovery.png"},
         "strip.png");
+    constexpr int in_a_row = 3;
+    Save_picture_strip({"map.png", "import-coast.png", "imported.png", "coast-check.png",
+                        "coast-filled.png", "copied.png"},
+                       "whole-way.png", in_a_row);
 }
 
 }  // namespace tidemark

@@ -1,7 +1,6 @@
 #include "walk/mended_coast.h"
 
 #include <memory>
-#include <stdexcept>
 
 #include <QCheckBox>
 #include <QLabel>
@@ -10,6 +9,7 @@
 #include "canvas/map_frame.h"
 #include "coast/check.h"
 #include "model/cell_frame.h"
+#include "walk/check.h"
 #include "walk/driver.h"
 
 namespace tidemark {
@@ -25,10 +25,6 @@ struct Place {
 constexpr Place Shore[] = {{9, 22, 5, 128},   {10, 21, 200, 200}, {12, 23, 100, 100},
                            {14, 21, 128, 60}, {15, 22, 60, 60},   {15, 23, 250, 128}};
 constexpr Place Water{12, 23, 128, 200};
-
-void Check(bool holds, const char* what) {
-    if (!holds) throw std::runtime_error(std::string("the mended coast: ") + what);
-}
 
 class MendedCoast {
   public:
@@ -64,7 +60,6 @@ QPoint MendedCoast::Pixel(Place place) const {
 void MendedCoast::Bring_into_view(Place place) {
     const QPoint pixel = Pixel(place);
     map_.Center_on({double(pixel.x()), double(pixel.y())});
-    QTest::qWait(100);  // for the mouse to learn where it is on the moved map
 }
 
 void MendedCoast::Click_map(Place place) {

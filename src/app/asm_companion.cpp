@@ -6,6 +6,7 @@
 #include "app/read_project.h"
 #include "coast/check.h"
 #include "model/path_text.h"
+#include "model/segments.h"
 #include "output/assembler_files.h"
 #include "output/foreign_file.h"
 #include "output/vtp_text.h"
@@ -61,7 +62,8 @@ std::string Output_path(const CompanionTask& task, const std::string& project_pa
 // Whether polygons are all that there is to write: a project that goes on with those of another
 // one, or whose coastlines are plain edges only.
 bool Has_polygons_only(const Project& project) {
-    return project.LWMCount > 0 && project.KillCount == 0 && Written_segment_count(project) == 0;
+    return project.LWMCount > 0 && project.KillCount == 0 &&
+           Written_segment_count(Segments(project)) == 0;
 }
 
 class Companion {

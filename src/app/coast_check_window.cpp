@@ -1,5 +1,7 @@
 #include "app/coast_check_window.h"
 
+#include <utility>
+
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
@@ -83,7 +85,7 @@ CoastCheck::CoastCheck(Document& document, Session& session, CoastWatch& watch, 
       document_(document),
       session_(session),
       watch_(watch),
-      KindFilter_(new QComboBox),
+      KindFilter_(Captionless<QComboBox>("KindFilter", "Kind of findings")),
       FindingSummary_(Named<QLabel>("FindingSummary")),
       FindingList_(
           new FindingList("FindingList", "Findings", {[this] { return Lines(); }, chosen_, [] {}})),
@@ -93,8 +95,6 @@ CoastCheck::CoastCheck(Document& document, Session& session, CoastWatch& watch, 
       MendAllButton_(Button("MendAllButton", "Mend &all")) {
     setObjectName("CoastCheck");
     setWindowTitle("Tidemark - Coast Check");
-    KindFilter_->setObjectName("KindFilter");
-    KindFilter_->setAccessibleName("Kind of findings");
     for (const std::string& line : Filter_lines({})) KindFilter_->addItem(To_qt(line));
     FindingList_->setItemDelegate(new FindingLines(shown_, FindingList_));
     Lay_out();

@@ -1,6 +1,8 @@
 // The window with what the coast check finds.
 #pragma once
 
+#include <optional>
+
 #include <QComboBox>
 #include <QDialog>
 #include <QLabel>

@@ -44,4 +44,19 @@ MendResult Mend_all_findings(Document& document, Session& session) {
                    [](Project& project, int point) { return Mend_all(project, point); });
 }
 
+std::optional<ListKind> Select_finding(const Finding& finding, Session& session) {
+    std::optional<ListKind> list;
+    const auto select = [&](int entry, int& selected, ListKind kind) {
+        if (entry < 1) return;
+        selected = entry - 1;
+        session.LastChosen = kind;
+        list = kind;
+    };
+    PanelState& panel = session.Panel;
+    select(finding.ClearedCell, panel.SelectedCell, ListKind::ClearedCells);
+    select(finding.Polygon, panel.SelectedPolygon, ListKind::Polygons);
+    select(finding.Point, panel.SelectedPoint, ListKind::Points);
+    return list;
+}
+
 }  // namespace tidemark

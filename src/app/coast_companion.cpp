@@ -9,7 +9,9 @@
 #include <set>
 #include <span>
 #include <system_error>
+#include <utility>
 
+#include "app/coast_upkeep.h"
 #include "app/coast_workers.h"
 #include "coast/coast_file.h"
 #include "model/project_file.h"
@@ -29,12 +31,6 @@ fs::path Path_of(const std::string& text) {
     return {std::u8string(text.begin(), text.end())};
 }
 
-std::optional<fs::file_time_type> Time_of(const std::string& path) {
-    std::error_code gone;
-    const auto time = fs::last_write_time(Path_of(path), gone);
-    return gone ? std::nullopt : std::optional(time);
-}
-
 class CoastCompanion {
   public:
     CoastCompanion(const CoastTask& task, Files& files, Clock& clock, std::ostream& out,
@@ -48,6 +44,7 @@ class CoastCompanion {
         if (!Is_savable(task_.OutputFolder)) return Refuse(std::string(UnsavableNameText));
         folder_ = files_.Full_path(task_.OutputFolder);
         if (folder_.back() != '/' && folder_.back() != '\\') folder_ += '/';
+        upkeep_.emplace(files_, folder_, task_.Options, task_.Coasts);
         auto cells = Cells();
         if (!cells) return false;
         std::erase_if(*cells, [this](const auto& touched) { return Is_up_to_date(touched.Cell); });
@@ -85,10 +82,7 @@ class CoastCompanion {
     // The first project of a cell is written last, so that all are there when it is.
     bool Is_up_to_date(WorldCell cell) {
         const std::string name = Coast_project_name(cell, 0) + ".TDM";
-        const auto made = Time_of(folder_ + name);
-        if (!made) return false;
-        for (const std::string& coast : task_.Coasts)
-            if (const auto changed = Time_of(coast); !changed || *changed >= *made) return false;
+        if (!upkeep_->Holds(name)) return false;
         out_ << name << ": up to date\n";
         return true;
     }
@@ -99,7 +93,7 @@ class CoastCompanion {
         return refusal_.empty() || Refuse(refusal_);
     }
 
-    // Until a file is refused, which is not told before the threads are at their end.
+    // Until a file is refused, which is reported when the threads are at their end.
     void Share_out(std::span<const Touched> cells) {
         CoastWorkers workers(
             task_.Threads, [this](const CellWork& cell) { return Make_projects(cell); },
@@ -107,7 +101,7 @@ class CoastCompanion {
         while (!cells.empty()) {
             const std::size_t count = Size_of_batch(cells);
             auto batch = Read(cells.first(count));
-            if (batch.empty()) return;
+            if (batch.empty() || !Note_options()) return;
             workers.Give(std::move(batch));
             cells = cells.subspan(count);
         }
@@ -136,11 +130,25 @@ class CoastCompanion {
                 refusal_ = Refusal_text(Path_of(coast), *reading.Refusal);
                 return {};
             }
+            Tell_remarks(Path_of(coast), reading.Remarks);
             for (std::size_t i = 0; i < batch.size(); ++i)
                 std::move(reading.Lines[i].begin(), reading.Lines[i].end(),
                           std::back_inserter(batch[i].Lines));
         }
+        is_first_batch_ = false;
         return batch;
+    }
+
+    // Once of each file, when the first batch is read and no thread prints yet.
+    void Tell_remarks(const fs::path& coast, const std::vector<std::string>& remarks) {
+        if (!is_first_batch_) return;
+        for (const std::string& remark : remarks) errors_ << Remark_text(coast, remark) << '\n';
+    }
+
+    bool Note_options() {
+        const FileResult noted = upkeep_->Note_options();
+        if (!noted) refusal_ = upkeep_->Options_path() + ": " + noted.Reason();
+        return static_cast<bool>(noted);
     }
 
     CellReport Make_projects(const CellWork& cell) const {
@@ -216,6 +224,8 @@ class CoastCompanion {
     const std::string saved_on_;
     std::string folder_;   // full, with its last separator
     std::string refusal_;  // of a file that went well before
+    std::optional<CoastUpkeep> upkeep_;
+    bool is_first_batch_ = true;
     bool all_is_well_ = true;
 };
 

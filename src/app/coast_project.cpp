@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "coast/check.h"
 #include "georef/background_properties.h"
@@ -32,10 +33,6 @@ void Name_files(Project& project, const std::string& folder, const std::string& 
     OutputPreferences preferences;
     preferences.RootText = folder + name + ".asm";
     Store_preferences(preferences, project);
-}
-
-std::string Counted(int count, const char* what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
 }
 
 std::string Summary_of(const Project& project, const Findings& errors) {

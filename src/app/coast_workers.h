@@ -19,7 +19,7 @@ struct CellWork {
     std::vector<CoastLine> Lines;
 };
 
-// What is told of a cell: whole lines.
+// What is printed about a cell: whole lines.
 struct CellReport {
     std::string Out, Errors;
     bool IsRefused = false;
@@ -28,7 +28,7 @@ struct CellReport {
 class CoastWorkers {
   public:
     using Work = std::function<CellReport(const CellWork& cell)>;
-    // Is told the reports in the order in which the cells were given, on any of the threads but
+    // Receives the reports in the order in which the cells were given, on any of the threads but
     // never on two at once.
     using Tell = std::function<void(const CellReport& report)>;
 

@@ -1,6 +1,7 @@
 #include "app/fill_coast_window.h"
 
-#include <QDialogButtonBox>
+#include <utility>
+
 #include <QVBoxLayout>
 
 #include "lwm/cell_text.h"
@@ -28,11 +29,9 @@ FillCoast::FillCoast(QWidget* owner)
       FillInside_(Named<QCheckBox>("FillInside", "Cells &that no coastline crosses, too")),
       FillInView_(Named<QCheckBox>("FillInView", "Only the cells in &view")),
       FillCountLabel_(Named<QLabel>("FillCountLabel")),
-      FillStopList_(new QListWidget) {
+      FillStopList_(Captionless<QListWidget>("FillStopList", "Cells at which filling stops")) {
     setObjectName("FillCoast");
     setWindowTitle("Tidemark - Fill Along the Coast");
-    FillStopList_->setObjectName("FillStopList");
-    FillStopList_->setAccessibleName("Cells at which filling stops");
     for (QCheckBox* const box : {FillWater_, FillLand_, FillInside_, FillInView_})
         connect(box, &QCheckBox::clicked, this, &FillCoast::Choices_changed);
     Lay_out();
@@ -52,11 +51,8 @@ void FillCoast::Lay_out() {
     stops->setBuddy(FillStopList_);
     column->addWidget(stops);
     column->addWidget(FillStopList_);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QDialogButtonBox* const buttons = Ok_and_cancel(*this);
     OkButton_ = buttons->button(QDialogButtonBox::Ok);
-    OkButton_->setObjectName("OkButton");
-    connect(buttons, &QDialogButtonBox::accepted, this, &FillCoast::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &FillCoast::reject);
     column->addWidget(buttons);
     setMinimumWidth(64 * fontMetrics().averageCharWidth());
 }

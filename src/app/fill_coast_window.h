@@ -1,6 +1,8 @@
 // The dialog Fill Along the Coast.
 #pragma once
 
+#include <optional>
+
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>

@@ -7,6 +7,7 @@
 #include "canvas/map_frame.h"
 #include "coast/clear_along.h"
 #include "coast/lay_coast.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -26,9 +27,7 @@ std::string Fill_along_coast(Document& document, Session& session, const FillPla
         session.DataChanged = true;
         Refresh_lists(project, session);
     });
-    const std::size_t count = plan.Polygons.size();
-    return std::to_string(count) + (count == 1 ? " polygon" : " polygons") +
-           " added along the coast.";
+    return Counted(plan.Polygons.size(), "polygon") + " added along the coast.";
 }
 
 std::string Clear_along_coast(Document& document, Session& session) {
@@ -47,8 +46,7 @@ std::string Clear_along_coast(Document& document, Session& session) {
         session.DataChanged = true;
         Refresh_lists(project, session);
     });
-    return std::to_string(count) + (count == 1 ? " cell" : " cells") +
-           " cleared along the segment.";
+    return Counted(count, "cell") + " cleared along the segment.";
 }
 
 std::optional<CellRange> Cells_in_view(const Project& p, CanvasPoint from, CanvasPoint to) {

@@ -1,6 +1,7 @@
 // Filling and clearing along the coast, each one step of the document.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "coast/fill.h"

@@ -1,6 +1,7 @@
 #include "app/import_coast_window.h"
 
-#include <QDialogButtonBox>
+#include <utility>
+
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <QScreen>
@@ -37,7 +38,7 @@ ImportCoast::ImportCoast(Platform& platform, QWidget* owner, Reader read)
       choices_(new QWidget),
       CoastFileText_(Named_field("CoastFileText", "Coast file")),
       CoastFileButton_(Named<QPushButton>("CoastFileButton", "&Browse")),
-      ImportModeCombo_(new QComboBox),
+      ImportModeCombo_(Captionless<QComboBox>("ImportModeCombo")),
       ImportWidthText_(Named_field("ImportWidthText", "Width", To_qt(DefaultVTPWidthText))),
       ToleranceText_(
           Named_field("ToleranceText", "Tolerance in units", QString::number(DefaultTolerance))),
@@ -47,16 +48,13 @@ ImportCoast::ImportCoast(Platform& platform, QWidget* owner, Reader read)
           Named<QCheckBox>("ClearCellsCheck", "&Clear the existing scenery of this kind")),
       FillWaterCheck_(Named<QCheckBox>("FillWaterCheck", "Fill with w&ater polygons")),
       FillLandCheck_(Named<QCheckBox>("FillLandCheck", "Fill with &land polygons")),
-      ReadingProgress_(new QProgressBar),
+      ReadingProgress_(Captionless<QProgressBar>("ReadingProgress")),
       StopReadingButton_(Named<QPushButton>("StopReadingButton", "&Stop reading")),
       ImportCountLabel_(Named<QLabel>("ImportCountLabel")),
-      ImportRemarkList_(new QListWidget) {
+      ImportRemarkList_(
+          Captionless<QListWidget>("ImportRemarkList", "What is left out, and errors")) {
     setObjectName("ImportCoast");
     setWindowTitle("Tidemark - Import Coast");
-    ImportModeCombo_->setObjectName("ImportModeCombo");
-    ReadingProgress_->setObjectName("ReadingProgress");
-    ImportRemarkList_->setObjectName("ImportRemarkList");
-    ImportRemarkList_->setAccessibleName("What is left out, and errors");
     CoastFileText_->setReadOnly(true);
     for (const DrawingMode& mode : DrawingModes)
         if (mode.What == Adds::Point) ImportModeCombo_->addItem(To_qt(mode.Item), mode.Code);
@@ -92,11 +90,8 @@ void ImportCoast::Lay_out() {
     remarks->setBuddy(ImportRemarkList_);
     column->addWidget(remarks);
     column->addWidget(ImportRemarkList_);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QDialogButtonBox* const buttons = Ok_and_cancel(*this);
     OkButton_ = buttons->button(QDialogButtonBox::Ok);
-    OkButton_->setObjectName("OkButton");
-    connect(buttons, &QDialogButtonBox::accepted, this, &ImportCoast::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &ImportCoast::reject);
     column->addWidget(buttons);
     setMinimumWidth(60 * fontMetrics().averageCharWidth());
 }
@@ -174,6 +169,7 @@ void ImportCoast::Read(const QString& path) {
     const std::filesystem::path file(path.toStdU16String());
     CoastFileText_->setText(path);
     Take_lines({}, "Reading " + From_qt(QFileInfo(path).fileName()) + " ...");
+    import_.FileRemarks.clear();
     is_reading_ = true;
     is_cancelled_ = false;
     since_start_.start();
@@ -190,6 +186,8 @@ void ImportCoast::Read(const QString& path) {
         reading = read_(file, {&box, 1}, [this](double part) { return Show_progress(part); });
     }
     if (!isVisible()) return;  // it was closed meanwhile
+    for (const std::string& remark : reading.Remarks)
+        import_.FileRemarks.push_back(Remark_text(file, remark));
     if (reading.Refusal)
         Take_lines({}, Refusal_text(file, *reading.Refusal));
     else if (reading.Lines.empty())

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "app/map_commands.h"
 #include "canvas/map_frame.h"
@@ -22,10 +23,6 @@ constexpr Colour PreviewInk{224, 0, 160};
 constexpr Colour PreviewRim{255, 255, 255};  // which makes the line stand out from any map
 constexpr int PreviewWidth = 2, RimWidth = 4;
 
-std::string Counted(int count, const std::string& one, const std::string& several) {
-    return std::to_string(count) + " " + (count == 1 ? one : several);
-}
-
 std::string Cleared_text(int cells) {
     return cells == 0 ? "No cell is left to be cleared."
                       : Counted(cells, "cell is cleared.", "cells are cleared.");
@@ -40,8 +37,14 @@ std::string Filling_text(const FillPlan& plan) {
                              "imported.";
 }
 
-std::vector<std::string> Remarks_on(const LaidCoast& coast, const ImportResult& result) {
-    std::vector<std::string> remarks = coast.Dropped;
+std::vector<std::string> Remarks_on(const CoastImport& import) {
+    std::vector<std::string> remarks = import.FileRemarks;
+    remarks.insert(remarks.end(), import.Coast.Dropped.begin(), import.Coast.Dropped.end());
+    return remarks;
+}
+
+std::vector<std::string> Remarks_on(const CoastImport& import, const ImportResult& result) {
+    std::vector<std::string> remarks = Remarks_on(import);
     for (const Finding& error : result.Errors) remarks.push_back(Finding_line(error));
     for (const FillStop& stop : result.Filled.Stops)
         remarks.push_back(Cell_text(stop.Cell.Column, stop.Cell.Row) +
@@ -83,7 +86,8 @@ std::optional<std::string> Choose_coast_file(Platform& platform, const std::stri
 }
 
 bool Is_coast_file(std::string_view path) {
-    return std::any_of(CoastExtensions.begin(), CoastExtensions.end(),
+    return Has_extension(path, ".kmz") ||
+           std::any_of(CoastExtensions.begin(), CoastExtensions.end(),
                        [&](std::string_view each) { return Has_extension(path, each); });
 }
 
@@ -96,16 +100,17 @@ std::optional<double> Take_tolerance(std::string_view text) {
 ImportPreview Preview_import(const Project& project, const CoastImport& import) {
     const LaidCoast& coast = import.Coast;
     if (coast.Lines.empty())
-        return {"Nothing of this file can be laid into the map.", coast.Dropped, {}, false};
+        return {"Nothing of this file can be laid into the map.", Remarks_on(import), {}, false};
     const auto copy = std::make_unique<Project>(project);
     const ImportResult result = Import_coast(*copy, coast, import.Options);
     MapMarks marks{New_polygons(project, *copy), Coast_lines(project, coast), {}};
-    if (!result.Refusal.empty()) return {result.Refusal, coast.Dropped, std::move(marks), false};
+    if (!result.Refusal.empty())
+        return {result.Refusal, Remarks_on(import), std::move(marks), false};
     std::string counts = Laid_text(coast, MaxVTPCount - project.VTPCount);
     if (import.Options.ClearCells) counts += "\n" + Cleared_text(result.Cleared);
     if (import.Options.FillWater || import.Options.FillLand)
         counts += "\n" + Filling_text(result.Filled);
-    return {counts, Remarks_on(coast, result), std::move(marks), true};
+    return {counts, Remarks_on(import, result), std::move(marks), true};
 }
 
 ImportResult Import_coast_file(Document& document, Session& session, const CoastImport& import) {
@@ -121,13 +126,13 @@ ImportResult Import_coast_file(Document& document, Session& session, const Coast
 
 std::string Imported_text(const LaidCoast& coast, const ImportResult& result) {
     if (!result.Refusal.empty()) return result.Refusal;
-    std::string text = Counted(static_cast<int>(coast.Lines.size()), "line", "lines") +
-                       " imported, " + Counted(coast.Points, "point", "points");
+    std::string text =
+        Counted(coast.Lines.size(), "line") + " imported, " + Counted(coast.Points, "point");
     const int polygons = static_cast<int>(result.Filled.Polygons.size());
     if (polygons > 0)
-        text += ", " + (result.Filled.Fits() ? Counted(polygons, "polygon", "polygons")
-                                             : "without the polygons");
-    if (result.Cleared > 0) text += ", " + Counted(result.Cleared, "cell", "cells") + " cleared";
+        text +=
+            ", " + (result.Filled.Fits() ? Counted(polygons, "polygon") : "without the polygons");
+    if (result.Cleared > 0) text += ", " + Counted(result.Cleared, "cell") + " cleared";
     return text + ".";
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,7 +22,7 @@ inline constexpr std::string_view NoMapAreaText =
 // path; empty: the folder that was current at start-up.
 std::optional<std::string> Choose_coast_file(Platform& platform, const std::string& last);
 
-// By its extension.
+// By its extension; a zipped file too, because of which the dialog says what to do.
 bool Is_coast_file(std::string_view path);
 
 // A tolerance as it was typed, in VTP units; nothing unless it is 0.1 to 1000.
@@ -35,12 +34,13 @@ inline constexpr std::string_view WrongToleranceText =
 struct CoastImport {
     LaidCoast Coast;
     ImportOptions Options;
+    std::vector<std::string> FileRemarks = {};  // on the file; one line each
 };
 
 // What an import would make of the project, which stays as it is.
 struct ImportPreview {
     std::string CountText;             // one line for each sort of entries; why it is not possible
-    std::vector<std::string> Remarks;  // what is left out, and the errors there would be
+    std::vector<std::string> Remarks;  // on the file, what is left out, and what would be wrong
     MapMarks Marks;  // the lines, and the polygons along them; on a map with scale
     bool IsPossible = false;
 };

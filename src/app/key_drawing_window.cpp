@@ -1,5 +1,7 @@
 #include "app/key_drawing_window.h"
 
+#include <optional>
+
 #include "canvas/map_frame.h"
 #include "platform/qt_text.h"
 
@@ -35,8 +37,8 @@ Qt::MouseButton Button_of(int key, Qt::KeyboardModifiers held) {
 }  // namespace
 
 KeyDrawing::KeyDrawing(MapView& map, QAction& command, const Document& document,
-                       const Session& session, QObject* parent)
-    : QObject(parent), map_(map), command_(command), document_(document), session_(session) {
+                       const Session& session)
+    : map_(map), command_(command), document_(document), session_(session) {
     map.Canvas().installEventFilter(this);
     connect(&command, &QAction::toggled, this, &KeyDrawing::Switch);
     connect(&map, &MapView::Zoom_changed, this, &KeyDrawing::Adapt_to_map);

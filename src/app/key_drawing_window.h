@@ -12,15 +12,14 @@
 namespace tidemark {
 
 // While it is on, it takes the keys for the cross from the map, and does with it what a mouse would
-// do there; assistive tools are told where the cross is. A mouse that moves leaves the cross where
+// do there; assistive tools can read where the cross is. A mouse that moves leaves the cross where
 // it is. Everything is left to the map while it is off.
 class KeyDrawing : public QObject {
     Q_OBJECT
 
   public:
     // `command` switches it; all of them live as long as this does.
-    KeyDrawing(MapView& map, QAction& command, const Document& document, const Session& session,
-               QObject* parent);
+    KeyDrawing(MapView& map, QAction& command, const Document& document, const Session& session);
 
     // While it is on, moves the cross to a place, if that is on the map.
     void Go_to(VTPPlace place);

@@ -1,25 +1,25 @@
 // tidemark-coast: makes projects of coast files from the command line.
+#include <algorithm>
+#include <array>
 #include <charconv>
-#include <cmath>
-#include <getopt.h>
 #include <iostream>
 #include <optional>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 #include "app/coast_companion.h"
-#include "platform/console.h"
+#include "app/console_program.h"
 
 namespace tidemark {
 namespace {
 
-constexpr int ExitRefused = 1;
-constexpr int ExitUsage = 2;
-
 constexpr const char* Usage =
     "Usage: tidemark-coast [OPTION]... (--at LAT,LON | --lod8 X,Y | --all) --output-folder DIR\n"
     "                      COAST...\n"
-    "Makes Tidemark projects of coast files: GeoJSON, shapefiles, KML, GPX.\n"
+    "Makes Tidemark projects of coast files: GeoJSON, shapefiles, KML, GPX. A project that is "
+    "newer\n"
+    "than they are and was made with the same options is passed over.\n"
     "\n"
     "  --at LAT,LON         the LOD8 cell of a place in degrees, such as 37.8,-122.4\n"
     "  --lod8 X,Y           an LOD8 cell, 0,0 to 767,511; both can be given several times\n"
@@ -38,13 +38,6 @@ constexpr const char* Usage =
     "\n"
     "  --help               show this help\n"
     "  --version            show the version\n";
-
-// The exit code, once all that was printed has been taken: a full disk is no success.
-int Ended(int code) {
-    if (std::cout.flush()) return code;
-    std::cerr << "tidemark-coast: standard output cannot be written to\n";
-    return ExitRefused;
-}
 
 // A text that is a number from its first to its last letter.
 template <class Number>
@@ -72,13 +65,22 @@ std::optional<std::pair<Number, Number>> Pair_in(std::string_view text, Number l
 struct CommandLine {
     CoastTask Task;
     bool All = false;
-    std::optional<std::string_view> Fill;
+    std::optional<std::string> Fill;
 
     ImportOptions& Importing() { return Task.Options.Importing; }
 
     // False when the text is none that the option takes.
-    bool Take(int option, std::string_view text) {
-        switch (option) {
+    bool Take(char letter, std::string_view text) {
+        switch (letter) {
+            case 'A':
+                All = true;
+                return true;
+            case 'r':
+                Task.Options.Laying.Reverse = true;
+                return true;
+            case 'c':
+                Importing().ClearCells = true;
+                return true;
             case 'a':
                 if (const auto at = Pair_in<double>(text, -90, 90, -180, 180))
                     return Add_cell(Cell_at({at->second, at->first}));
@@ -112,7 +114,7 @@ struct CommandLine {
     // What is wrong with the options as a whole; empty: nothing.
     std::string Complaint() {
         const bool is_coastline = Is_coastline(Importing().Mode);
-        const std::string_view fill = Fill.value_or(is_coastline ? "both" : "none");
+        const std::string fill = Fill.value_or(is_coastline ? "both" : "none");
         Importing().FillWater = fill == "water" || fill == "both";
         Importing().FillLand = fill == "land" || fill == "both";
         if (fill != "none" && !is_coastline)
@@ -138,74 +140,38 @@ struct CommandLine {
     }
 };
 
-int Run(std::vector<std::string> arguments) {
-    constexpr option options[] = {{"at", required_argument, nullptr, 'a'},
-                                  {"lod8", required_argument, nullptr, 'l'},
-                                  {"all", no_argument, nullptr, 'A'},
-                                  {"output-folder", required_argument, nullptr, 'o'},
-                                  {"mode", required_argument, nullptr, 'm'},
-                                  {"width", required_argument, nullptr, 'w'},
-                                  {"tolerance", required_argument, nullptr, 't'},
-                                  {"reverse", no_argument, nullptr, 'r'},
-                                  {"fill", required_argument, nullptr, 'f'},
-                                  {"land", required_argument, nullptr, 's'},
-                                  {"clear", no_argument, nullptr, 'c'},
-                                  {"help", no_argument, nullptr, 'h'},
-                                  {"version", no_argument, nullptr, 'v'},
-                                  {}};
-    std::vector<char*> words;  // as getopt wants them, which puts the options first
-    words.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments) words.push_back(argument.data());
-    words.push_back(nullptr);
-    const int count = static_cast<int>(arguments.size());
-    const auto complain = [](const std::string& what) {
-        std::cerr << "tidemark-coast: " << what << "\nTry 'tidemark-coast --help'.\n";
-        return ExitUsage;
-    };
+constexpr std::array<ConsoleOption, 11> Options{{
+    {.Name = "at", .Letter = 'a', .TakesText = true},
+    {.Name = "lod8", .Letter = 'l', .TakesText = true},
+    {.Name = "all", .Letter = 'A'},
+    {.Name = "output-folder", .Letter = 'o', .TakesText = true},
+    {.Name = "mode", .Letter = 'm', .TakesText = true},
+    {.Name = "width", .Letter = 'w', .TakesText = true},
+    {.Name = "tolerance", .Letter = 't', .TakesText = true},
+    {.Name = "reverse", .Letter = 'r'},
+    {.Name = "fill", .Letter = 'f', .TakesText = true},
+    {.Name = "land", .Letter = 's', .TakesText = true},
+    {.Name = "clear", .Letter = 'c'},
+}};
 
+int Run(std::vector<std::string> arguments) {
+    ConsoleProgram program("tidemark-coast", Usage);
     CommandLine line;
-    int index = 0;
-    for (int found; (found = getopt_long(count, words.data(), "", options, &index)) != -1;) {
-        switch (found) {
-            case 'A':
-                line.All = true;
-                break;
-            case 'r':
-                line.Task.Options.Laying.Reverse = true;
-                break;
-            case 'c':
-                line.Importing().ClearCells = true;
-                break;
-            case 'h':
-                std::cout << Usage;
-                return Ended(0);
-            case 'v':
-                std::cout << "tidemark-coast " TIDEMARK_VERSION "\n";
-                return Ended(0);
-            case '?':
-                std::cerr << Usage;
-                return ExitUsage;
-            default:
-                if (!line.Take(found, optarg))
-                    return complain("--" + std::string(options[index].name) + " does not take '" +
-                                    optarg + "'");
-        }
-    }
-    for (int i = optind; i < count; ++i)
-        for (const std::string& coast : Files_meant(words[static_cast<std::size_t>(i)]))
-            line.Task.Coasts.push_back(coast);
-    if (const std::string what = line.Complaint(); !what.empty()) return complain(what);
+    const auto take = [&line](char letter, std::string_view text) {
+        return line.Take(letter, text);
+    };
+    if (const auto code = program.Read(std::move(arguments), Options, take)) return *code;
+    line.Task.Coasts = program.Files();
+    if (const std::string what = line.Complaint(); !what.empty()) return program.Complain(what);
     line.Task.Threads = std::max(1U, std::thread::hardware_concurrency());
     DiskFiles files;
     SystemClock clock;
-    const bool all_is_well = Write_coast_projects(line.Task, files, clock, std::cout, std::cerr);
-    return Ended(all_is_well ? 0 : ExitRefused);
+    return program.Ended(Write_coast_projects(line.Task, files, clock, std::cout, std::cerr));
 }
 
 }  // namespace
 }  // namespace tidemark
 
 int main(int argc, char** argv) {
-    const auto prints_utf8 = tidemark::Console_in_utf8();
     return tidemark::Run(tidemark::Console_arguments(argc, argv));
 }

@@ -1,6 +1,8 @@
 // The Background menu, and what else concerns the picture, without their windows.
 #pragma once
 
+#include <functional>
+
 #include "canvas/background.h"
 #include "canvas/view_layout.h"
 #include "georef/background_properties.h"
@@ -27,7 +29,7 @@ void Load_background(Document& document, Session& session, Platform& platform,
 // "Change background properties". One step.
 void Change_background_properties(Document& document, Messages& messages, const MapScreen& screen);
 
-// Loads the picture anew, as every new size of a window does. No step.
+// Loads the picture again, as every new size of a window does. No step.
 void Reload_background(Document& document, Session& session, Messages& messages,
                        const ShowImage& show_image);
 

@@ -1,5 +1,7 @@
 #include "app/project_commands.h"
 
+#include <utility>
+
 #include "app/map_commands.h"
 #include "app/read_project.h"
 #include "model/path_text.h"

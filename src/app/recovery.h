@@ -5,7 +5,9 @@
 // is one that could not be read and is left to the user.
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/recovery_file.h"

@@ -2,16 +2,9 @@
 
 #include "app/project_commands.h"
 #include "model/path_text.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
-
-namespace {
-
-std::string Counted(int count, const std::string& what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
-}  // namespace
 
 std::string Lost_work_text(const LostWork& lost) {
     const std::string& path = lost.Unsaved.ProjectPath;

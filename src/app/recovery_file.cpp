@@ -2,6 +2,8 @@
 
 #include <array>
 #include <charconv>
+#include <optional>
+#include <utility>
 
 #include "model/line_writer.h"
 

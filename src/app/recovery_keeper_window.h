@@ -2,6 +2,8 @@
 // gone.
 #pragma once
 
+#include <functional>
+
 #include <QObject>
 #include <QTimer>
 
@@ -33,7 +35,7 @@ class RecoveryKeeper : public QObject {
     // Writes what is not saved at once: the program is about to be ended from outside.
     void Write_now();
 
-    // At an orderly exit: nothing of this editor is left to be recovered, but for work that was
+    // At an orderly exit: nothing of this editor is left to be recovered, except work that was
     // recovered, then undone, and never saved.
     void End();
 

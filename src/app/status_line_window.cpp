@@ -21,10 +21,22 @@ QLabel* Add_label(QStatusBar& bar, const char* name) {
 
 StatusLine::StatusLine(QStatusBar& bar)
     : QObject(&bar),
+      bar_(bar),
       CountsLabel_(Add_label(bar, "CountsLabel")),
       PlaceLabel_(Add_label(bar, "PlaceLabel")),
       DistanceLabel_(Add_label(bar, "DistanceLabel")) {
     Show_counts(Project());
+    // What does not fit the line can be read whole in the tooltip.
+    connect(&bar, &QStatusBar::messageChanged, &bar, &QStatusBar::setToolTip);
+}
+
+void StatusLine::Say(const std::string& text) {
+    bar_.showMessage(To_qt(text));
+}
+
+void StatusLine::Remark(const QString& text) {
+    if (!text.isEmpty() || bar_.currentMessage() == remark_) bar_.showMessage(text);
+    remark_ = text;
 }
 
 void StatusLine::Show_counts(const Project& project) {

@@ -49,7 +49,7 @@ void Put_side_by_side(QBoxLayout& column, QWidget* upper, QWidget* lower, int st
     column.insertLayout(place, row, stretch);
 }
 
-// What assistive tools are told of the panel: by itself Qt calls only dialogs and main windows so.
+// What assistive tools call the panel: by itself Qt calls only dialogs and main windows so.
 QAccessibleInterface* Window_interface(const QString& class_name, QObject* object) {
     if (class_name != QLatin1String(Status::staticMetaObject.className())) return nullptr;
     return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);
@@ -87,14 +87,28 @@ Status::Status(Document& document, Session& session, Messages& messages, QWidget
 
     for (QLineEdit* const field : findChildren<QLineEdit*>())
         field->installEventFilter(new LeavesUndoToWindow(field));
+    Wire_frames(session);
+}
+
+void Status::Wire_frames(Session& session) {
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, vtp_, &VTPFrame::Start_new_segment);
     connect(drawing_mode_, &DrawingModeFrame::Mode_chosen, lwm_, &LWMFrame::Mode_chosen);
-    connect(vtp_, &VTPFrame::Graphics_outdated, this, &Status::Graphics_outdated);
-    connect(lwm_, &LWMFrame::Graphics_outdated, this, &Status::Graphics_outdated);
-    connect(kill_, &KillFrame::Graphics_outdated, this, &Status::Graphics_outdated);
-    connect(vtp_, &VTPFrame::Show_wanted, this, &Status::Show_wanted);
-    connect(lwm_, &LWMFrame::Show_wanted, this, &Status::Show_wanted);
-    connect(kill_, &KillFrame::Show_wanted, this, &Status::Show_wanted);
+    connect(vtp_, &VTPFrame::EditButton_clicked, this, &Status::Edit_wanted);
+    for (const ListKind kind : {ListKind::Points, ListKind::Polygons, ListKind::ClearedCells}) {
+        const auto choose = [&session, kind] { session.LastChosen = kind; };
+        ListBox& list = List(kind);
+        connect(&list, &ListBox::Clicked, this, choose);
+        connect(&list, &ListBox::Clicked, this, &Status::Graphics_outdated);
+        connect(&list, &ListBox::Double_clicked, this, choose);
+        connect(&list, &ListBox::Double_clicked, this, &Status::Show_wanted);
+    }
+}
+
+ListBox& Status::List(ListKind kind) {
+    QWidget* const frame = kind == ListKind::Points     ? static_cast<QWidget*>(vtp_)
+                           : kind == ListKind::Polygons ? static_cast<QWidget*>(lwm_)
+                                                        : kill_;
+    return *frame->findChild<ListBox*>();
 }
 
 // A screen that is too low for lists of six lines in one column gets the shorter ones, and the two

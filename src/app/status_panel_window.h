@@ -25,6 +25,8 @@ class Status : public QWidget {
     LWMFrame& LWM() { return *lwm_; }
     KillFrame& Kill() { return *kill_; }
 
+    ListBox& List(ListKind kind);
+
     // Shows the three lists as they are now.
     void Refresh();
 
@@ -35,6 +37,7 @@ class Status : public QWidget {
     void RefreshButton_Click();
     void Graphics_outdated();  // another line of a list was selected
     void Show_wanted();        // a line was double-clicked
+    void Edit_wanted();        // the dialog Edit Point is asked for
     // The panel has got a new size, or its first one; the first drawing mode is then selected.
     void Resized();
 
@@ -42,6 +45,7 @@ class Status : public QWidget {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void Wire_frames(Session& session);
     void Fit_to_screen(QBoxLayout& column);
 
     DrawingModeFrame* drawing_mode_;

@@ -39,4 +39,17 @@ std::string Distance_text(const Project& project, const Session& session) {
         Leg_between(Position_of(project, from), Position_of(project, Cursor_place(session))));
 }
 
+std::string File_changed_text(const std::string& path) {
+    return path + " has been changed by another program; Save Project would replace it";
+}
+
+std::string File_gone_text(const std::string& path) {
+    return path + " is gone; Save Project writes it anew";
+}
+
+std::string Travelled_text(const std::string& said, const std::string& step, bool is_picture_gone) {
+    return said + step +
+           (is_picture_gone ? "; its background picture cannot be shown any more" : "");
+}
+
 }  // namespace tidemark

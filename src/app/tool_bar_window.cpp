@@ -1,5 +1,7 @@
 #include "app/tool_bar_window.h"
 
+#include <utility>
+
 #include <QMenu>
 #include <QToolButton>
 

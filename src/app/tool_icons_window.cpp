@@ -1,5 +1,7 @@
 #include "app/tool_icons_window.h"
 
+#include <utility>
+
 #include <QTransform>
 
 namespace tidemark {

@@ -18,7 +18,7 @@ namespace tidemark {
 //
 // Lines that lead out of a picture are not cut off at the same fraction of a pixel in every
 // picture. So of what is scrolled only that is moved which no such line touches; the rest is
-// painted anew, and all of it always looks as it would after a redraw.
+// painted again, and all of it always looks as it would after a redraw.
 class MapCanvas : public QWidget {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ class MapCanvas : public QWidget {
     void Show_finding_frame(std::vector<MarkLine> frame);
 
     // The cross that stands for the pointer while the keys draw, at a canvas pixel. Showing it
-    // moves the mouse there, as far as anybody is told; it is pressed there, too. Without it the
+    // emits Mouse_moved as if the mouse were there, and Press_at_cross presses it. Without it the
     // pointer counts again.
     void Show_cross(std::optional<CanvasPoint> place);
     std::optional<CanvasPoint> Cross() const { return cross_; }
@@ -68,11 +68,13 @@ class MapCanvas : public QWidget {
     void Bring_up_to_date(const QRect& visible);
     const QPixmap& Marked(const QRect& visible);
     void Update_around(const std::vector<MarkLine>& lines);
+    void Show_frame(std::vector<MarkLine>& shown, std::vector<MarkLine> frame);
+
+    // In map_canvas_input_window.cpp, with the handlers of the mouse and the keys.
     void Update_around_cross();
     void Tell(CanvasPoint place);
     void Tell_pointer();
     void Show_hand();
-    void Show_frame(std::vector<MarkLine>& shown, std::vector<MarkLine> frame);
 
     MapScale scale_;
     MapPicture picture_;

@@ -3,7 +3,6 @@
 // Refresh_Graphics draws.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "model/project.h"
@@ -47,7 +46,7 @@ struct MapMarks {
     bool Is_empty() const { return Areas.empty() && Lines.empty() && Numbers.empty(); }
 };
 
-// The marks of these kinds but for the frame of the pointer's cell. None on a map without scale;
+// The marks of these kinds except the frame of the pointer's cell. None on a map without scale;
 // what has a position that does not fit 16 bits is left out.
 MapMarks Marks_of(const Project& project, const Session& session, const MarkKinds& kinds);
 

@@ -2,12 +2,12 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStyle>
 
 #include "canvas/qt_image_file.h"
+#include "platform/qt_busy_cursor.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -15,14 +15,6 @@ namespace tidemark {
 namespace {
 
 constexpr int ScrollStep = 32;  // pixels
-
-class BusyCursor {
-  public:
-    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-};
 
 QRect Qt_rect(const ViewRect& rect) {
     return {rect.Left, rect.Top, rect.Width, rect.Height};
@@ -125,7 +117,7 @@ void MapView::Show_nothing() {
 }
 
 bool MapView::Decode(const QString& path) {
-    const BusyCursor busy;
+    const BusyCursor busy(Qt::WaitCursor);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return false;
     QImage image = Read_map_image(file, [this](QSize size) { return Fits(size); });

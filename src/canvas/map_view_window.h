@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include <QDateTime>
 #include <QLabel>
@@ -16,7 +17,7 @@
 
 namespace tidemark {
 
-// Until an image is loaded it is empty but for a line that says how to begin.
+// Until an image is loaded it is empty except for a line that says how to begin.
 class MapView : public QWidget {
     Q_OBJECT
 

@@ -1,4 +1,6 @@
 // How the view is zoomed and panned.
+#include <utility>
+
 #include <QCoreApplication>
 #include <QNativeGestureEvent>
 #include <QWheelEvent>

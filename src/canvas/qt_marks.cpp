@@ -1,5 +1,7 @@
 #include "canvas/qt_marks.h"
 
+#include <utility>
+
 #include <QPainterPath>
 
 namespace tidemark {

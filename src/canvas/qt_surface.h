@@ -25,7 +25,7 @@ class QtSurface : public DrawingSurface {
     void Line(CanvasPoint from, CanvasPoint to) override;
     void Circle(CanvasPoint centre, double radius, Colour colour) override;
 
-    // Paints the drawings that may touch `exposed`, in the order in which they were drawn, but for
+    // Paints the drawings that may touch `exposed`, in the order in which they were drawn, except
     // those that lie in `spared`. A canvas pixel is `zoom` of the painter's units; pens and rings
     // are as wide at every zoom. The caller clips.
     void Paint(QPainter& painter, const QRect& exposed, double zoom, const QRectF& spared = {});

@@ -26,7 +26,7 @@ struct ViewLayout {
     ScrollBarLayout Horizontal, Vertical;
 };
 
-// The viewport fills the client area but for the room of both bars. A bar shows when the map is
+// The viewport fills the client area except the room of both bars. A bar shows when the map is
 // larger than the viewport; a bar that has no hidden bar beside it lies along the viewport, one
 // beside a hidden bar along the map. `map` is the size at which the map is shown.
 ViewLayout Lay_out_map(ViewSize client, ViewSize map, int bar_thickness);

@@ -1,4 +1,4 @@
-// Which of a cell's 255 x 255 unit squares an outline covers, told by their centres.
+// Which of a cell's 255 x 255 unit squares an outline covers, by their centres.
 #pragma once
 
 #include <array>

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 #include <stdexcept>
 
 namespace tidemark {
@@ -35,24 +36,49 @@ struct LineCrossing {
     double At;  // part of the step, 0..1
     std::size_t Axis;
     int Edge;  // first VTP unit east or south of the line
-
-    bool operator<(const LineCrossing& other) const {
-        return At != other.At ? At < other.At : Axis < other.Axis;
-    }
 };
 
-std::vector<LineCrossing> Line_crossings(Position from, Position to) {
-    std::vector<LineCrossing> crossings;
-    for (std::size_t axis : {0U, 1U}) {
-        const auto [low, high] = std::minmax({Cell_index(from[axis]), Cell_index(to[axis])});
-        for (int cell = low + 1; cell <= high; ++cell) {
-            const int edge = First_unit(cell);
-            const double at = (edge - 0.5 - from[axis]) / (to[axis] - from[axis]);
-            crossings.push_back({at, axis, edge});
-        }
+// The crossings of the lines between columns, or between rows, one after the other.
+class AxisCrossings {
+  public:
+    AxisCrossings(Position from, Position to, std::size_t axis)
+        : from_(from[axis]),
+          length_(to[axis] - from[axis]),
+          left_(Cell_index(to[axis]) - Cell_index(from[axis])),
+          next_{0, axis, First_unit(Cell_index(from[axis]) + (length_ > 0 ? 1 : 0))} {
+        Reckon();
     }
-    std::sort(crossings.begin(), crossings.end());
-    return crossings;
+
+    bool Are_left() const { return left_ != 0; }
+    const LineCrossing& Next() const { return next_; }
+
+    void Go_on() {
+        const int ahead = left_ > 0 ? 1 : -1;
+        left_ -= ahead;
+        next_.Edge += ahead * CellSizeVTP;
+        Reckon();
+    }
+
+  private:
+    void Reckon() {
+        if (left_ != 0) next_.At = (next_.Edge - 0.5 - from_) / length_;
+    }
+
+    int from_, length_, left_;  // VTP units; cells
+    LineCrossing next_;
+};
+
+// In their order along the step; at a corner that of the columns first.
+template <class Take>  // take(crossing)
+void For_each_line_crossing(Position from, Position to, const Take& take) {
+    AxisCrossings across(from, to, 0), down(from, to, 1);
+    while (across.Are_left() || down.Are_left()) {
+        const bool is_across =
+            !down.Are_left() || (across.Are_left() && across.Next().At <= down.Next().At);
+        AxisCrossings& next = is_across ? across : down;
+        take(next.Next());
+        next.Go_on();
+    }
 }
 
 double Along(Position from, Position to, const LineCrossing& crossing) {
@@ -80,13 +106,13 @@ Cut Cut_at(const LineCrossing& crossing, bool ahead, int along) {
 template <class Take>  // take(crossing, ahead, along)
 void For_each_crossing(Position from, Position to, int aside, const Take& take) {
     Position cell = Cell_of(from);
-    for (const LineCrossing& crossing : Line_crossings(from, to)) {
+    For_each_line_crossing(from, to, [&](const LineCrossing& crossing) {
         const std::size_t axis = crossing.Axis, other = 1 - axis;
         const bool ahead = to[axis] > from[axis];
         const double along = Along(from, to, crossing);
         take(crossing, ahead, Clear_of_edges(along + aside, cell[other]));
         cell[axis] += ahead ? 1 : -1;
-    }
+    });
 }
 
 void Cut_step(CellPath& path, Position from, Position to) {
@@ -110,6 +136,15 @@ std::vector<Position> Placed(const std::vector<Position>& line) {
 Position Off_cell_edges(Position place) {
     for (int& value : place) value = Clear_of_edges(value, Cell_index(value));
     return place;
+}
+
+void Append_cut(std::vector<Position>& points, Position from, Position to) {
+    For_each_crossing(from, to, 0, [&](const LineCrossing& crossing, bool ahead, int along) {
+        const Cut cut = Cut_at(crossing, ahead, along);
+        points.push_back(cut.Leaving);
+        points.push_back(cut.Entering);
+    });
+    points.push_back(to);
 }
 
 CellPath Cut_at_cell_edges(const std::vector<Position>& placed) {
@@ -156,17 +191,20 @@ std::vector<Position> Cut_of_step(Position from, Position to, int aside) {
 }
 
 double First_crossing(Position from, Position to) {
-    const std::vector<LineCrossing> crossings = Line_crossings(from, to);
-    return crossings.empty() ? 0 : Along(from, to, crossings.front());
+    std::optional<double> along;
+    For_each_line_crossing(from, to, [&](const LineCrossing& crossing) {
+        if (!along) along = Along(from, to, crossing);
+    });
+    return along.value_or(0);
 }
 
 std::vector<LOD13Cell> Cells_between(Position from, Position to) {
     std::vector<LOD13Cell> cells;
     Position cell = Cell_of(from);
-    for (const LineCrossing& crossing : Line_crossings(from, to)) {
+    For_each_line_crossing(from, to, [&](const LineCrossing& crossing) {
         cell[crossing.Axis] += to[crossing.Axis] > from[crossing.Axis] ? 1 : -1;
         cells.push_back({cell[0], cell[1]});
-    }
+    });
     if (!cells.empty()) cells.pop_back();  // the cell of the end
     return cells;
 }

@@ -45,6 +45,9 @@ Position Off_cell_edges(Position place);
 // A placed line, cut as above.
 CellPath Cut_at_cell_edges(const std::vector<Position>& placed);
 
+// The points of such a line from one placed point to the next, without the first of the two.
+void Append_cut(std::vector<Position>& points, Position from, Position to);
+
 // A closed line that is placed, whose last point is its first one: cut, and turned so that it
 // starts and ends on the first cell edge that it crosses. Throws std::runtime_error for a ring
 // inside one cell, which the builder could only take for a polygon of its own.

@@ -1,6 +1,7 @@
 // The pieces of one cell and which part of its boundary each of them has.
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "coast/coast_survey.h"

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cstdlib>
 
 #include "coast/cell_path.h"
 #include "coast/check_parts.h"
@@ -14,10 +13,14 @@ std::string Count_text(std::size_t count, const char* what) {
 }
 
 // Whether an end near its cell's edge belongs on it. Where the coastline has crossed the edge right
-// there, it would only come back to that place.
+// there, it would only come back to that place; and one that goes on from another's end would be in
+// the way of that.
 bool Belongs_on_edge(const Project& p, const SurveyedCell& cell, int end) {
     const auto place = Place_on_edge(p, end);
-    return place &&
+    const auto shares_place = [&](int other) {
+        return other != end && VTP_position(p, other) == VTP_position(p, end);
+    };
+    return place && std::none_of(cell.Ends.begin(), cell.Ends.end(), shares_place) &&
            std::none_of(cell.Crossings.begin(), cell.Crossings.end(), [&](const auto& crossing) {
                return Position{First_unit(cell.Cell.Column) + int{crossing.Place.X},
                                First_unit(cell.Cell.Row) + int{crossing.Place.Y}} == *place;
@@ -42,10 +45,13 @@ void Check_ends(const Project& p, const SurveyedCell& cell, Findings& findings) 
     for (const int end : ends) {
         Finding found = loose_end;
         found.Point = end;
-        if (Belongs_on_edge(p, cell, end)) found.Mending = Remedy::MoveToEdge;
+        const bool is_near = Belongs_on_edge(p, cell, end);
+        if (is_near) found.Mending = Remedy::MoveToEdge;
         found.Text = "a coastline ends in this cell at " + Point_text(end) +
                      (ends.size() > 1 ? ", one of " + Count_text(ends.size(), "ends") : "") +
-                     ", and no polygon can be built; move the end to the cell's edge or delete it";
+                     ", and no polygon can be built; " +
+                     (is_near ? "Mend moves the end to the cell's edge"
+                              : "move the end to the cell's edge or delete it");
         findings.push_back(found);
     }
 }
@@ -160,7 +166,7 @@ void Check_same_places(const Project& p, const CoastSurvey& survey, const Survey
         Finding finding{.Kind = FindingKind::Segment,
                         .Cell = cell.Cell,
                         .Text = "coastlines cross this cell's edge twice at the same place, " +
-                                text(*a) + " and " + text(*found) + "; move one of them aside",
+                                text(*a) + " and " + text(*found),
                         .Point = from,
                         .Other = to};
         if (Is_needle(p, survey, from, to)) {
@@ -169,6 +175,8 @@ void Check_same_places(const Project& p, const CoastSurvey& survey, const Survey
                 First_crossing(VTP_position(p, to - 1), VTP_position(p, to)))
                 std::swap(finding.Point, finding.Other);
         }
+        finding.Text += finding.Mending == Remedy::Widen ? "; Mend leads them across a unit apart"
+                                                         : "; move one of them aside";
         findings.push_back(std::move(finding));
     }
 }

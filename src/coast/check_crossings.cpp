@@ -73,7 +73,7 @@ class EdgeCheck {
                    " crosses the edge to " + Text_of(other_) +
                    " at a slant, and the polygons miss each other by " +
                    std::to_string(std::abs(Along(a) - Along(b))) +
-                   " units; put a point on each side of the edge",
+                   " units; Mend puts a point on each side of the edge",
                Remedy::CutStep);
     }
 
@@ -88,8 +88,8 @@ class EdgeCheck {
         if (seen.IsMatched || Is_explained(point) || Is_end_on_edge(point)) return;
         Report(cell, point,
                "the coastline crosses the edge to " + Text_of(other) + " before " +
-                   Point_text(point) +
-                   ", which does not see it; put a point on each side of the edge",
+                   Point_text(point) + ", which does not see it; " +
+                   (Is_step(point) ? "Mend puts" : "put") + " a point on each side of the edge",
                Is_step(point) ? Remedy::CutStep : Remedy::None);
     }
 

@@ -16,7 +16,8 @@ void Check_step(const Project& p, int point, Findings& findings) {
                                 .Cell = cell,
                                 .Text = "the step from " + Point_text(point - 1) + " to " +
                                         Point_text(point) + " skips cell " + Text_of(cell) +
-                                        ", which is built without it; put a point there",
+                                        ", which is built without it; Mend puts points "
+                                        "on both sides of the edges that it crosses",
                                 .Point = point,
                                 .Mending = Remedy::CutStep});
 }
@@ -56,12 +57,13 @@ void Check_edge_point(const Project& p, const Segment& coastline, int point, Fin
     if (!Is_in_LOD8_cell(cell) || !Is_on_boundary(Place_in_cell(p, point)) ||
         Crosses_at(p, coastline, point))
         return;
-    findings.push_back({.Kind = FindingKind::Neighbours,
-                        .Cell = cell,
-                        .Text = Point_text(point) + " lies on the cell's edge, but the " +
-                                "coastline does not cross it there; move the point into the cell",
-                        .Point = point,
-                        .Mending = Remedy::MoveInside});
+    findings.push_back(
+        {.Kind = FindingKind::Neighbours,
+         .Cell = cell,
+         .Text = Point_text(point) + " lies on the cell's edge, but the " +
+                 "coastline does not cross it there; Mend moves the point into the cell",
+         .Point = point,
+         .Mending = Remedy::MoveInside});
 }
 
 // In a corner of its cell on the map's own edge: there an end belongs further along the edge.
@@ -107,8 +109,8 @@ void Check_last_step(const Project& p, const Segment& coastline, Findings& findi
                         .Cell = cell,
                         .Text = "the coastline that ends on the edge of this cell at " +
                                 Point_text(last) +
-                                " has no point inside, and the cell is built without it; put a "
-                                "point there",
+                                " has no point inside, and the cell is built without it; Mend "
+                                "puts one there",
                         .Point = last,
                         .Mending = Remedy::CutStep});
 }
@@ -127,7 +129,7 @@ void Check_ends_on_edges(const Project& p, const CoastSurvey& survey, Findings& 
                                 .Cell = cell,
                                 .Text = Point_text(end) +
                                         " lies on the cell's edge, where another end or a corner "
-                                        "is in the way; move the point into the cell",
+                                        "is in the way; Mend moves the point into the cell",
                                 .Point = end,
                                 .Mending = Remedy::MoveInside});
         }
@@ -159,14 +161,15 @@ void Check_repeated_point(const Project& p, const Segment& segment, int point, F
     if (!is_here(point - 1)) return;
     bool is_whole_segment = true;  // of which one point would be left
     for (int i = segment.First; i <= segment.Last; ++i) is_whole_segment &= is_here(i);
-    findings.push_back({.Kind = FindingKind::Segment,
-                        .IsError = Is_coastline(segment.Mode),
-                        .Cell = Cell_of_point(p, point),
-                        .Text = "points " + std::to_string(point - 1) + " and " +
-                                std::to_string(point) + " are at the same place; " +
-                                (is_whole_segment ? "move one of them" : "delete one of them"),
-                        .Point = point,
-                        .Mending = is_whole_segment ? Remedy::None : Remedy::DropPoint});
+    findings.push_back(
+        {.Kind = FindingKind::Segment,
+         .IsError = Is_coastline(segment.Mode),
+         .Cell = Cell_of_point(p, point),
+         .Text = "points " + std::to_string(point - 1) + " and " + std::to_string(point) +
+                 " are at the same place; " +
+                 (is_whole_segment ? "move one of them" : "Mend deletes one of them"),
+         .Point = point,
+         .Mending = is_whole_segment ? Remedy::None : Remedy::DropPoint});
 }
 
 }  // namespace

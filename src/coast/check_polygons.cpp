@@ -7,6 +7,7 @@
 #include "coast/rebuild.h"
 #include "lwm/polygon_builder.h"
 #include "model/drawing_modes.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -40,7 +41,7 @@ void Check_outline(const Project& p, int polygon, const std::vector<Outline>& ca
     if (candidates.empty()) {
         found.Text += ", and none can be built now; mend the coastlines first";
     } else if (can_be_rebuilt) {
-        found.Text += " now; delete it and click it again";
+        found.Text += " now; Mend builds it again";
         found.Mending = Remedy::Rebuild;
     } else {
         found.Text +=
@@ -70,8 +71,7 @@ void Check_overlaps(const Project& p, const std::vector<int>& polygons, Findings
             findings.push_back(About(p, polygon,
                                      Polygon_text(polygon) + " overlaps " +
                                          Polygon_text(polygons[k]) + " by " +
-                                         std::to_string(common) + " square unit" +
-                                         (common == 1 ? "" : "s") + "; delete one of them"));
+                                         Counted(common, "square unit") + "; delete one of them"));
         }
     }
 }

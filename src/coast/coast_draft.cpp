@@ -4,90 +4,33 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <limits>
-#include <map>
 
+#include "coast/cell_path.h"
 #include "coast/mend.h"
 
 namespace tidemark {
 
 namespace {
 
-constexpr double Endless = std::numeric_limits<double>::infinity();
-
-// Keeping more points can make lines touch elsewhere; more often than this it does not go on.
-constexpr int MaxRounds = 40;
-
-// A ring that goes round less is no island on the map.
-constexpr double LeastTwiceArea = 8;
-
-std::int64_t Turn(Position a, Position b, Position c) {
-    return std::int64_t{b[0] - a[0]} * (c[1] - a[1]) - std::int64_t{b[1] - a[1]} * (c[0] - a[0]);
-}
-
-bool Is_in_box(Position a, Position b, Position place) {
+// The line goes along one edge of the map, and there is nothing between it and the edge.
+bool Is_along_edge(const std::vector<Position>& placed, const MapUnits& map) {
+    if (placed.size() != 2) return false;
     for (const std::size_t axis : {0U, 1U})
-        if (place[axis] < std::min(a[axis], b[axis]) || place[axis] > std::max(a[axis], b[axis]))
-            return false;
-    return true;
-}
-
-bool Lies_on(Position place, Position a, Position b) {
-    return Is_in_box(a, b, place) && Turn(a, b, place) == 0;
-}
-
-bool Are_apart(Position a, Position b, Position c, Position d) {
-    for (const std::size_t axis : {0U, 1U})
-        if (std::max(a[axis], b[axis]) < std::min(c[axis], d[axis]) ||
-            std::max(c[axis], d[axis]) < std::min(a[axis], b[axis]))
+        if (placed[0][axis] == placed[1][axis] &&
+            (placed[0][axis] == map.First[axis] || placed[0][axis] == map.Last[axis]))
             return true;
     return false;
 }
 
-bool Touch(Position a, Position b, Position c, Position d) {
-    if (Lies_on(a, c, d) || Lies_on(b, c, d) || Lies_on(c, a, b) || Lies_on(d, a, b)) return true;
-    const auto differ = [](std::int64_t one, std::int64_t other) {
-        return (one > 0 && other < 0) || (one < 0 && other > 0);
-    };
-    return differ(Turn(a, b, c), Turn(a, b, d)) && differ(Turn(c, d, a), Turn(c, d, b));
-}
-
-template <class T>
-std::vector<T> Part_of(const std::vector<T>& all, std::size_t first, std::size_t last) {
-    return {all.begin() + static_cast<std::ptrdiff_t>(first),
-            all.begin() + static_cast<std::ptrdiff_t>(last) + 1};
-}
-
-template <class T>
-void Cut_out(std::vector<T>& all, std::size_t first, std::size_t last) {
-    all.erase(all.begin() + static_cast<std::ptrdiff_t>(first),
-              all.begin() + static_cast<std::ptrdiff_t>(last) + 1);
-}
-
 }  // namespace
-
-struct CoastDraft::Step {
-    Position From, To;
-    std::size_t Line, Chord;
-    bool Ends_chord;  // the next step belongs to the next chord
-};
-
-struct CoastDraft::Conflict {
-    std::size_t Line, Chord;
-    std::size_t OtherLine, OtherChord;  // later in the order of all steps
-};
 
 MapRectangle MapUnits::Rectangle() const {
     return {First[0] - 0.5, First[1] - 0.5, Last[0] + 0.5, Last[1] + 0.5};
 }
 
-double Twice_area(const std::vector<MapPoint>& points) {
-    double sum = 0;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const MapPoint a = points[i], b = points[i + 1 == points.size() ? 0 : i + 1];
-        sum += a.X * b.Y - b.X * a.Y;
-    }
-    return sum;
+bool MapUnits::Is_on_edge(Position place) const {
+    return place[0] == First[0] || place[0] == Last[0] || place[1] == First[1] ||
+           place[1] == Last[1];
 }
 
 CoastDraft::CoastDraft(std::vector<DraftLine> lines, const MapUnits& map, double tolerance)
@@ -143,7 +86,10 @@ void CoastDraft::Place(std::size_t number) {
         kept.push_back(i);
         placed.push_back(place);
     }
-    if (!line.Line.IsRing) return;
+    if (!line.Line.IsRing) {
+        if (Is_along_edge(placed, map_)) placed.clear();
+        return;
+    }
     while (placed.size() > 1 && placed.back() == placed.front()) {
         kept.pop_back();
         placed.pop_back();
@@ -155,131 +101,43 @@ void CoastDraft::Place(std::size_t number) {
 }
 
 // Of all lines, cut at the cell edges.
-std::vector<CoastDraft::Step> CoastDraft::Steps() const {
-    std::vector<Step> steps;
-    for (std::size_t line = 0; line < lines_.size(); ++line) {
+std::vector<CoastStep> CoastDraft::Steps() const {
+    std::vector<CoastStep> steps;
+    std::vector<Position> points;
+    for (std::uint32_t line = 0; line < lines_.size(); ++line) {
         const std::vector<Position>& placed = placed_[line];
-        for (std::size_t chord = 0; chord + 1 < placed.size(); ++chord) {
-            const CellPath path = Cut_at_cell_edges({placed[chord], placed[chord + 1]});
-            for (std::size_t i = 0; i + 1 < path.Points.size(); ++i)
-                steps.push_back(
-                    {path.Points[i], path.Points[i + 1], line, chord, i + 2 == path.Points.size()});
+        const std::size_t first = steps.size();
+        for (std::uint32_t chord = 0; chord + 1 < placed.size(); ++chord) {
+            Position from = placed[chord];
+            points.clear();
+            Append_cut(points, from, placed[chord + 1]);
+            for (const Position& to : points) {
+                steps.push_back({from, to, line, chord, true, false, false});
+                from = to;
+            }
         }
+        if (steps.size() == first) continue;
+        steps.back().GoesOn = false;
+        steps[first].BeginsRing = steps.back().EndsRing = lines_[line].Line.IsRing;
     }
     return steps;
 }
 
-std::vector<CoastDraft::Conflict> CoastDraft::Conflicts() const {
-    const std::vector<Step> steps = Steps();
-    const auto follows = [&](const Step& a, const Step& b) {
-        if (a.Line != b.Line || a.To != b.From) return false;
-        const std::size_t chords = placed_[a.Line].size() - 1;
-        const std::size_t next =
-            a.Chord + 1 == chords && lines_[a.Line].Line.IsRing ? 0 : a.Chord + 1;
-        return a.Ends_chord ? b.Chord == next : b.Chord == a.Chord;
-    };
-    const auto conflict = [&](const Step& a, const Step& b) {
-        if (Are_apart(a.From, a.To, b.From, b.To)) return false;
-        // Steps that follow one another share a point, and no more unless the line turns back.
-        if (follows(a, b)) return Lies_on(b.To, a.From, a.To) || Lies_on(a.From, b.From, b.To);
-        if (follows(b, a)) return Lies_on(a.To, b.From, b.To) || Lies_on(b.From, a.From, a.To);
-        return Touch(a.From, a.To, b.From, b.To);
-    };
-    std::map<Position, std::vector<std::size_t>> cells;  // the steps that touch each
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        const Position from = Cell_of(steps[i].From), to = Cell_of(steps[i].To);
-        cells[from].push_back(i);
-        if (to != from) cells[to].push_back(i);
+std::vector<Position> CoastDraft::Ends_on_map_edge() const {
+    std::vector<Position> ends;
+    for (std::size_t line = 0; line < lines_.size(); ++line) {
+        const std::vector<Position>& placed = placed_[line];
+        if (placed.empty() || lines_[line].Line.IsRing) continue;
+        for (const Position& end : {placed.front(), placed.back()})
+            if (map_.Is_on_edge(end)) ends.push_back(end);
     }
-    std::vector<Conflict> conflicts;
-    for (const auto& [cell, here] : cells)
-        for (std::size_t i = 0; i < here.size(); ++i)
-            for (std::size_t k = i + 1; k < here.size(); ++k) {
-                const Step &a = steps[here[i]], &b = steps[here[k]];
-                if (conflict(a, b)) conflicts.push_back({a.Line, a.Chord, b.Line, b.Chord});
-            }
-    return conflicts;
+    return ends;
 }
 
-// Keeps the most significant of the points that the chord leaves out, where that changes anything.
-bool CoastDraft::Keep_more(std::size_t number, std::size_t chord) {
-    DraftLine& line = lines_[number];
-    const std::vector<std::size_t>& kept = kept_[number];
-    const std::size_t count = line.Line.Points.size();
-    const std::size_t first = kept[chord];
-    const std::size_t last = chord + 1 < kept.size() ? kept[chord + 1] : count + kept[0];
-    std::size_t most = first;
-    for (std::size_t i = first + 1; i < last; ++i)
-        if (most == first || line.Significances[i % count] > line.Significances[most % count])
-            most = i;
-    if (most == first || line.Significances[most % count] <= LeastGain) return false;
-    line.Significances[most % count] = Endless;
-    return true;
-}
-
-void CoastDraft::Part_lines() {
-    for (int round = 0; round < MaxRounds; ++round) {
-        const std::vector<Conflict> conflicts = Conflicts();
-        if (conflicts.empty()) return;
-        std::vector<bool> changed(lines_.size(), false);
-        for (const auto& [line, chord, other, other_chord] : conflicts) {
-            const bool first = Keep_more(line, chord);
-            const bool second = Keep_more(other, other_chord);
-            if (first) changed[line] = true;
-            if (second) changed[other] = true;
-        }
-        // Only where no point is left that could part them.
-        for (const Conflict& conflict : conflicts)
-            if (!changed[conflict.Line] && !changed[conflict.OtherLine] && Separate(conflict))
-                changed[conflict.Line] = changed[conflict.OtherLine] = true;
-        // Open lines that cross stay as they are; the check will say so.
-        if (std::find(changed.begin(), changed.end(), true) == changed.end()) return;
-        for (std::size_t line = 0; line < lines_.size(); ++line) Place(line);
-    }
-}
-
-bool CoastDraft::Separate(const Conflict& conflict) {
-    const std::size_t line = conflict.Line, other = conflict.OtherLine;
-    if (line == other)
-        return Cut_off_loop(line, std::min(conflict.Chord, conflict.OtherChord),
-                            std::max(conflict.Chord, conflict.OtherChord));
-    const bool first_is_ring = lines_[line].Line.IsRing;
-    const bool second_is_ring = lines_[other].Line.IsRing;
-    if (!first_is_ring && !second_is_ring) return false;
-    const auto area = [&](std::size_t i) { return std::fabs(Twice_area(lines_[i].Line.Points)); };
-    const bool drop_first = first_is_ring && (!second_is_ring || area(line) < area(other));
-    Drop(drop_first ? line : other, "touches another coastline");
-    return true;
-}
-
-// The points between the two chords leave the line. As a ring of their own they stay if they go
-// round anything; of a ring the larger part goes on as the line.
-bool CoastDraft::Cut_off_loop(std::size_t number, std::size_t first_chord, std::size_t last_chord) {
-    if (first_chord == last_chord) return false;
-    DraftLine& line = lines_[number];
-    const std::size_t first = kept_[number][first_chord + 1], last = kept_[number][last_chord];
-    DraftLine loop{
-        {Part_of(line.Line.Points, first, last), true, line.Line.LandOnLeft, line.Line.Origin},
-        Part_of(line.Significances, first, last)};
-    Cut_out(line.Line.Points, first, last);
-    Cut_out(line.Significances, first, last);
-    if (line.Line.IsRing &&
-        std::fabs(Twice_area(line.Line.Points)) < std::fabs(Twice_area(loop.Line.Points)))
-        std::swap(line, loop);
-    if (std::fabs(Twice_area(loop.Line.Points)) <= LeastTwiceArea) return true;
-    for (DraftLine* const part : {&line, &loop})
-        if (!part->Line.Points.empty())
-            part->Significances.front() = part->Significances.back() = Endless;
-    lines_.push_back(std::move(loop));
+void CoastDraft::Add(DraftLine line) {
+    lines_.push_back(std::move(line));
     kept_.emplace_back();
     placed_.emplace_back();
-    return true;
-}
-
-void CoastDraft::Drop(std::size_t line, const std::string& why) {
-    dropped_.push_back("the island of " + lines_[line].Line.Origin + " " + why);
-    lines_[line].Line.Points.clear();
-    lines_[line].Significances.clear();
 }
 
 double CoastDraft::Deviation(std::size_t number) const {
@@ -287,6 +145,7 @@ double CoastDraft::Deviation(std::size_t number) const {
     const std::vector<Position>& placed = placed_[number];
     const std::vector<std::size_t>& kept = kept_[number];
     double most = 0;
+    std::vector<Position> cuts;
     for (std::size_t chord = 0; chord + 1 < placed.size(); ++chord) {
         const MapPoint a{double(placed[chord][0]), double(placed[chord][1])};
         const MapPoint b{double(placed[chord + 1][0]), double(placed[chord + 1][1])};
@@ -294,7 +153,9 @@ double CoastDraft::Deviation(std::size_t number) const {
             chord + 1 < kept.size() ? kept[chord + 1] : points.size() + kept[0];
         for (std::size_t i = kept[chord]; i <= last; ++i)
             most = std::max(most, Square_to_segment(points[i % points.size()], a, b));
-        for (const Position& cut : Cut_at_cell_edges({placed[chord], placed[chord + 1]}).Points)
+        cuts.clear();
+        Append_cut(cuts, placed[chord], placed[chord + 1]);
+        for (const Position& cut : cuts)
             most = std::max(most, Square_to_segment({double(cut[0]), double(cut[1])}, a, b));
     }
     return std::sqrt(most) + (lines_[number].LeftOut ? LeastGain : 0);

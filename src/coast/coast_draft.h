@@ -1,24 +1,16 @@
-// Lines on their way into the map at one tolerance: which of their points are kept, where those
-// come to lie, and what is done where lines would touch.
+// Lines on their way into the map at one tolerance: which of their points are kept, and where those
+// come to lie.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "coast/cell_path.h"
+#include "coast/draft_line.h"
 #include "coast/map_line.h"
 #include "coast/position.h"
+#include "coast/touching_steps.h"
 
 namespace tidemark {
-
-// A line with the significance of each of its points (simplify.h). What is kept whatever the
-// tolerance has an infinite one.
-struct DraftLine {
-    MapLine Line;
-    std::vector<double> Significances;
-    bool LeftOut = false;  // points of less significance than LeastGain are no more there
-};
 
 // VTP units: a point that is nearer to the line without it changes nothing on the map.
 inline constexpr double LeastGain = 0.5;
@@ -29,40 +21,42 @@ struct MapUnits {
 
     // Up to half a unit beyond the outermost ones: there the next map begins.
     MapRectangle Rectangle() const;
+
+    bool Is_on_edge(Position place) const;
 };
 
 class CoastDraft {
   public:
     CoastDraft(std::vector<DraftLine> lines, const MapUnits& map, double tolerance);
 
-    // Keeps more points where the kept ones let lines touch or cross one another, and where that
-    // does not help cuts off what is narrower than a unit: a loop becomes a ring of its own, of two
-    // rings that touch the smaller one goes.
-    void Part_lines();
+    double Tolerance() const { return tolerance_; }
 
-    // The kept points of a line in VTP units, none on a cell edge but the ends on the map's edge;
-    // of a ring the first one is repeated at the end.
     const std::vector<DraftLine>& Lines() const { return lines_; }
+    // The numbers of the points that are kept.
+    const std::vector<std::size_t>& Kept(std::size_t line) const { return kept_[line]; }
+    // Where they lie in VTP units, none on a cell edge but the ends on the map's edge; of a ring
+    // the first one is repeated at the end. Its chords are numbered from 0 by their first points.
     const std::vector<Position>& Placed(std::size_t line) const { return placed_[line]; }
+
+    // All lines, cut at the cell edges.
+    std::vector<CoastStep> Steps() const;
+
+    // The ends of lines that end on the edge of the map.
+    std::vector<Position> Ends_on_map_edge() const;
+
+    // A line that is changed, or added, has to be placed again.
+    DraftLine& Line(std::size_t line) { return lines_[line]; }
+    void Add(DraftLine line);
+    void Place(std::size_t line);
 
     // The greatest distance of a point of the line from what was placed instead, VTP units.
     double Deviation(std::size_t line) const;
 
-    const std::vector<std::string>& Dropped() const { return dropped_; }
+    // What could not be kept, and why; one line each.
+    std::vector<std::string> Dropped;
 
   private:
-    struct Step;      // between two points of the cut line
-    struct Conflict;  // of two steps
-
-    void Place(std::size_t line);
     Position Place_of(const DraftLine& line, std::size_t point) const;
-    std::vector<Step> Steps() const;
-    std::vector<Conflict> Conflicts() const;
-    bool Keep_more(std::size_t line, std::size_t chord);
-    // Both say whether anything has changed.
-    bool Separate(const Conflict& conflict);
-    bool Cut_off_loop(std::size_t line, std::size_t first_chord, std::size_t last_chord);
-    void Drop(std::size_t line, const std::string& why);
 
     MapUnits map_;
     double tolerance_;
@@ -70,10 +64,6 @@ class CoastDraft {
     // Of each line: the points that are kept, by number, and where they lie.
     std::vector<std::vector<std::size_t>> kept_;
     std::vector<std::vector<Position>> placed_;
-    std::vector<std::string> dropped_;
 };
-
-// Twice the area that the points go round, positive when clockwise on the map.
-double Twice_area(const std::vector<MapPoint>& points);
 
 }  // namespace tidemark

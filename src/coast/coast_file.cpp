@@ -44,6 +44,8 @@ void Read_by_extension(const fs::path& path, CoastRuns& runs, const CoastProgres
     if (extension == ".gpx") return Read_text_file(path, Read_gpx, runs, progress);
     if (extension == ".geojson" || extension == ".json")
         return Read_text_file(path, Read_geojson, runs, progress);
+    if (extension == ".kmz")
+        throw CoastRefusal{"", "it is zipped; unzip it first and choose the .kml file from it"};
     throw CoastRefusal{"", "its name does not end in .geojson, .json, .shp, .kml or .gpx"};
 }
 
@@ -58,7 +60,10 @@ void Check_is_file(const fs::path& path) {
 void Read_into(const fs::path& path, CoastRuns& runs, const CoastProgress& progress) {
     Check_is_file(path);
     Read_by_extension(path, runs, progress);
-    if (runs.Kept() == 0) throw CoastRefusal{"", "there is no line or polygon in it"};
+    if (runs.Kept() > 0) return;
+    std::string why = "there is no line or polygon in it";
+    for (const std::string& remark : runs.Remarks()) why += "; " + remark;
+    throw CoastRefusal{"", why};
 }
 
 }  // namespace
@@ -70,6 +75,7 @@ CoastFileReading Read_coast_file(const fs::path& path, std::span<const GeoBox> w
         CoastRuns runs(wanted);
         Read_into(path, runs, progress);
         reading.Lines = runs.Take();
+        reading.Remarks = runs.Remarks();
     } catch (const CoastCancelled&) {
         reading.Cancelled = true;
     } catch (const CoastRefusal& refusal) {
@@ -90,6 +96,10 @@ std::optional<CoastRefusal> Watch_coast_file(const fs::path& path, const Segment
         return CoastRefusal{"", "a part of it does not fit into memory"};
     }
     return std::nullopt;
+}
+
+std::string Remark_text(const fs::path& path, const std::string& remark) {
+    return Text_of(path.filename()) + ": Remark: " + remark;
 }
 
 std::string Refusal_text(const fs::path& path, const CoastRefusal& refusal) {

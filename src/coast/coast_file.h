@@ -17,6 +17,9 @@ struct CoastFileReading {
     // One list for each wanted box, in their order. None after a refusal and when it was cancelled.
     std::vector<std::vector<CoastLine>> Lines;
 
+    // What the user is to know of the file although it can be read.
+    std::vector<std::string> Remarks;
+
     std::optional<CoastRefusal> Refusal;
     bool Cancelled = false;
 };
@@ -33,6 +36,9 @@ CoastFileReading Read_coast_file(const std::filesystem::path& path, std::span<co
 // it was refused, after some of them may have been shown.
 std::optional<CoastRefusal> Watch_coast_file(const std::filesystem::path& path,
                                              const SegmentWatch& watch);
+
+// "coast.shp: Remark: what the user is to know"
+std::string Remark_text(const std::filesystem::path& path, const std::string& remark);
 
 // "coast.geojson, line 12: what is wrong"
 std::string Refusal_text(const std::filesystem::path& path, const CoastRefusal& refusal);

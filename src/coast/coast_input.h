@@ -11,7 +11,7 @@
 
 namespace tidemark {
 
-// Is told how much of the file is read, 0 to 1; false cancels the reading.
+// Receives how much of the file is read, 0 to 1; false cancels the reading.
 using CoastProgress = std::function<bool(double part)>;
 
 // Thrown by readers: the file is refused.

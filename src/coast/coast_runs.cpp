@@ -1,70 +1,18 @@
 #include "coast/coast_runs.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 #include <limits>
 #include <utility>
+
+#include "coast/geo_box.h"
 
 namespace tidemark {
 
 namespace {
 
-constexpr double Turn = 360;       // degrees
-constexpr double Rounding = 1e-6;  // degrees, a tenth of a metre
-constexpr int FarthestTurn = 2;    // that a box may lie away from a position
+constexpr int FarthestTurn = 2;  // that a box may lie away from a position
 constexpr double NoDegrees = std::numeric_limits<double>::infinity();
-
-GeoBox Moved_east(const GeoBox& box, int turns) {
-    return {box.West + turns * Turn, box.South, box.East + turns * Turn, box.North};
-}
-
-bool Touch(const GeoBox& one, const GeoBox& other) {
-    return one.West <= other.East && one.East >= other.West && one.South <= other.North &&
-           one.North >= other.South;
-}
-
-bool Is_in(const CoastPosition& position, const GeoBox& box) {
-    return position.Longitude >= box.West && position.Longitude <= box.East &&
-           position.Latitude >= box.South && position.Latitude <= box.North;
-}
-
-void Widen(GeoBox& box, const CoastPosition& position) {
-    box.West = std::min(box.West, position.Longitude);
-    box.South = std::min(box.South, position.Latitude);
-    box.East = std::max(box.East, position.Longitude);
-    box.North = std::max(box.North, position.Latitude);
-}
-
-// A segment whose own bounds touch the box misses it when all corners are on one side of it.
-bool Touches(const CoastPosition& from, const CoastPosition& to, const GeoBox& box) {
-    if (std::max(from.Longitude, to.Longitude) < box.West ||
-        std::min(from.Longitude, to.Longitude) > box.East ||
-        std::max(from.Latitude, to.Latitude) < box.South ||
-        std::min(from.Latitude, to.Latitude) > box.North)
-        return false;
-    if (Is_in(from, box) || Is_in(to, box)) return true;
-    const double east = to.Longitude - from.Longitude, north = to.Latitude - from.Latitude;
-    const auto side = [&](double longitude, double latitude) {
-        return east * (latitude - from.Latitude) - north * (longitude - from.Longitude);
-    };
-    const std::array sides{side(box.West, box.South), side(box.East, box.South),
-                           side(box.West, box.North), side(box.East, box.North)};
-    const auto [least, most] = std::minmax_element(sides.begin(), sides.end());
-    return *least <= 0 && *most >= 0;
-}
-
-bool Is_on_date_line(const CoastPosition& position) {
-    return std::fabs(std::remainder(position.Longitude, Turn)) >= Turn / 2 - Rounding;
-}
-
-bool Are_at_one_pole(const CoastPosition& from, const CoastPosition& to) {
-    return std::fabs(from.Latitude + to.Latitude) >= 180 - 2 * Rounding;
-}
-
-bool Closes_polygon_only(const CoastPosition& from, const CoastPosition& to) {
-    return (Is_on_date_line(from) && Is_on_date_line(to)) || Are_at_one_pole(from, to);
-}
 
 // Of a whole line that closes: a ring when it is in the box, otherwise an open line from one of the
 // positions outside back to it.
@@ -81,23 +29,6 @@ void Make_ring(CoastLine& line, const GeoBox& box) {
 }
 
 }  // namespace
-
-std::string CoastPlace::Text() const {
-    if (Number == 0) return {};
-    return Unit + (" " + std::to_string(Number)) +
-           (Feature == 0 ? "" : ", feature " + std::to_string(Feature));
-}
-
-bool Is_in_degrees(double longitude, double latitude) {
-    return std::fabs(longitude) <= 180 + Rounding && std::fabs(latitude) <= 90 + Rounding;
-}
-
-std::string Beyond_degrees_text(double longitude, double latitude) {
-    std::array<char, 80> position{};
-    std::snprintf(position.data(), position.size(), "%.10g, %.10g", longitude, latitude);
-    return std::string(position.data()) +
-           " is no longitude and latitude in degrees; projected coordinates cannot be read";
-}
 
 CoastRuns::CoastRuns(std::span<const GeoBox> wanted)
     : wanted_(wanted.begin(), wanted.end()),
@@ -132,12 +63,12 @@ void CoastRuns::Begin_line(CoastRole role, const CoastPlace& origin) {
 void CoastRuns::Step_over_date_line(int turns) {
     Flush();
     turn_ += turns;
-    last_.Longitude -= turns * Turn;
+    last_.Longitude -= turns * TurnDegrees;
 }
 
 CoastPosition CoastRuns::Chunk_position(std::size_t at, int turn) const {
     const int turns = (at == 0 ? lead_turn_ : turn_) - turn;
-    return {chunk_[at].Longitude + turns * Turn, chunk_[at].Latitude};
+    return {chunk_[at].Longitude + turns * TurnDegrees, chunk_[at].Latitude};
 }
 
 // Looks through the chunk and begins the next one with its last position.
@@ -202,7 +133,7 @@ void CoastRuns::Keep_segment(std::size_t box, int turn, std::size_t at) {
 
 // Degrees east of the line's first position, along the line.
 double CoastRuns::From_first(double longitude) const {
-    return longitude - first_.Longitude + turn_ * Turn;
+    return longitude - first_.Longitude + turn_ * TurnDegrees;
 }
 
 void CoastRuns::Add_area(const CoastPosition& from, const CoastPosition& to) {
@@ -213,11 +144,11 @@ void CoastRuns::Add_area(const CoastPosition& from, const CoastPosition& to) {
 // 180 and -180 degrees are the same place.
 bool CoastRuns::Is_at_first() const {
     return added_ > 2 && last_.Latitude == first_.Latitude &&
-           std::remainder(last_.Longitude - first_.Longitude, Turn) == 0;
+           std::remainder(last_.Longitude - first_.Longitude, TurnDegrees) == 0;
 }
 
 int CoastRuns::Turns_round_world() const {
-    return static_cast<int>(std::lround(From_first(last_.Longitude) / Turn));
+    return static_cast<int>(std::lround(From_first(last_.Longitude) / TurnDegrees));
 }
 
 void CoastRuns::Close() {

@@ -19,34 +19,20 @@
 #include <vector>
 
 #include "coast/coast_line.h"
+#include "coast/coast_place.h"
 
 namespace tidemark {
-
-// Where something stands in a file, and how messages say it: "line 12, feature 3", "record 3".
-struct CoastPlace {
-    const char* Unit;
-    std::size_t Number;
-    std::size_t Feature = 0;  // 0: in none
-
-    std::string Text() const;
-};
-
-// Within +/-180 and 90 degrees, but for a rounding.
-bool Is_in_degrees(double longitude, double latitude);
-
-// What is wrong with those that are not.
-std::string Beyond_degrees_text(double longitude, double latitude);
 
 // What a line is in its file. A polygon's ring says by that, and by the direction that it runs in,
 // on which side its land is.
 enum class CoastRole : std::uint8_t { Line, OuterRing, Hole };
 
 // How the land side of lines is known: not at all; of each ring by its role and direction; or of
-// the rings of one polygon whose roles are not told. The largest of them is an outer ring then, and
+// the rings of one polygon whose roles are unknown. The largest of them is an outer ring then, and
 // those that run the other way are holes.
 enum class CoastSides : std::uint8_t { None, ByRole, ByLargest };
 
-// Is told each segment of coast, among them those of lines that are dropped in the end. The
+// Receives each segment of coast, among them those of lines that are dropped in the end. The
 // longitudes are at most a turn beyond +/-180.
 using SegmentWatch = std::function<void(const CoastPosition& from, const CoastPosition& to)>;
 
@@ -102,6 +88,10 @@ class CoastRuns {
     // One list for each box, in the order of the boxes.
     std::vector<std::vector<CoastLine>> Take();
 
+    // What the user is to know of the file although it can be read.
+    void Remark(std::string what) { remarks_.push_back(std::move(what)); }
+    const std::vector<std::string>& Remarks() const { return remarks_; }
+
   private:
     static constexpr std::size_t ChunkSize = 128;
 
@@ -155,6 +145,7 @@ class CoastRuns {
     double largest_area_ = 0;  // twice, of the rings that wait
     std::size_t waiting_lines_ = 0, kept_lines_ = 0;
     std::vector<std::vector<CoastLine>> kept_;
+    std::vector<std::string> remarks_;
 };
 
 }  // namespace tidemark

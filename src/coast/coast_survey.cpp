@@ -93,8 +93,8 @@ SurveyedCell CoastSurvey::Look_at(LOD13Cell place) const {
     cell.Cell = place;
     FirstWarning warning;
     const Session session = Session_at(place);
-    CellEdges edges(*project_, session, warning);
-    Collect_edge_points(edges, *project_);
+    CellPoints points(*project_, session);
+    CellEdges edges = Edge_points_of(*project_, points);
     Assign_edges(edges);
     cell.PointsLost = edges.EdgePointsLost;
     Take_chains(edges, cell);

@@ -4,14 +4,11 @@
 #include <cstdlib>
 
 #include "coast/check_parts.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
 namespace {
-
-std::string Counted(int count, const std::string& what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
 
 // The findings of one cell within a list, by their positions: First to before Last.
 struct Range {

@@ -1,6 +1,8 @@
 // What a list of findings shows and chooses.
 #pragma once
 
+#include <optional>
+
 #include "coast/finding.h"
 #include "model/project.h"
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
+#include "model/text_forms.h"
+
 namespace tidemark {
 
 namespace {
@@ -212,8 +214,7 @@ void GeojsonHandler::End_position() {
     if (object.PositionLevel == 0) object.PositionLevel = levels_;
     if (object.PositionLevel != levels_) Refuse("its coordinates are nested unevenly");
     if (numbers_ < 2 || numbers_ > MostNumbers)
-        Refuse("a position has " + std::to_string(numbers_) +
-               (numbers_ == 1 ? " number" : " numbers") + "; it takes 2 to 4");
+        Refuse("a position has " + Counted(numbers_, "number") + "; it takes 2 to 4");
     numbers_ = 0;
     if (levels_ == 1) return;  // a point
     if (!in_line_) {

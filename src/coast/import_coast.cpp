@@ -1,5 +1,6 @@
 #include "coast/import_coast.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "coast/check.h"
@@ -39,6 +40,16 @@ bool Clear_all(Project& p, int first, int& cleared) {
     return true;
 }
 
+// The errors there are now and were not before.
+Findings New_errors(const Project& before, const Project& after) {
+    const Findings known = Check_coast(before);
+    Findings errors;
+    for (Finding& finding : Check_coast(after))
+        if (finding.IsError && std::find(known.begin(), known.end(), finding) == known.end())
+            errors.push_back(std::move(finding));
+    return errors;
+}
+
 }  // namespace
 
 ImportResult Import_coast(Project& project, const LaidCoast& coast, const ImportOptions& options) {
@@ -64,8 +75,7 @@ ImportResult Import_coast(Project& project, const LaidCoast& coast, const Import
         result.Filled = Plan_fill(*changed, shores, filling);
         if (result.Filled.Fits()) Fill(*changed, result.Filled);
     }
-    for (Finding& finding : Check_coast(*changed))
-        if (finding.IsError) result.Errors.push_back(std::move(finding));
+    result.Errors = New_errors(project, *changed);
     project = *changed;
     return result;
 }

@@ -26,7 +26,7 @@ struct ImportResult {
     std::string Refusal;  // why the project is as it was; empty: it is not
     int Cleared = 0;      // cells
     FillPlan Filled;      // polygons that were added; with Fits() false none was
-    Findings Errors;      // of the coast check, in the project as it is now
+    Findings Errors;      // of the coast check, which the project did not have before
 };
 
 // Appends the lines as segments, then does what the options ask for. Refused, with the project as

@@ -30,6 +30,7 @@ class KmlReader : public XmlReader {
         if (name == "LineString") shape_ = Shape::Line;
         if (name == "LinearRing") shape_ = Shape::Ring;
         if (name == "coordinates" && shape_ != Shape::None) Begin_coordinates();
+        if (name == "Track") Pass_over_track();
     }
 
     void End(std::string_view name) override {
@@ -48,6 +49,14 @@ class KmlReader : public XmlReader {
                 position_ += letter;
             }
         }
+    }
+
+    // Tracks come with a time for each position; one remark is for all of them.
+    void Pass_over_track() {
+        if (!passes_tracks_over_)
+            runs_.Remark("its gx:Track in " + Here().Text() +
+                         " is passed over; save tracks as GPX to have them read");
+        passes_tracks_over_ = true;
     }
 
     void Begin_coordinates() {
@@ -90,8 +99,9 @@ class KmlReader : public XmlReader {
 
     CoastRuns& runs_;
     bool in_polygon_ = false, in_hole_ = false, in_coordinates_ = false;
+    bool passes_tracks_over_ = false;
     Shape shape_ = Shape::None;
-    std::string position_;  // as much as has come of it
+    std::string position_;  // as much of it as was read
 };
 
 }  // namespace

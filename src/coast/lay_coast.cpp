@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <functional>
 #include <map>
+#include <memory>
 
+#include "coast/cell_path.h"
 #include "coast/coast_draft.h"
+#include "coast/part_lines.h"
 #include "coast/simplify.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -102,7 +105,7 @@ std::vector<DraftLine> Draft_lines(const Project& p, std::span<const CoastLine> 
 class Laying {
   public:
     Laying(const MapUnits& map, const CoastDraft& draft) : map_(map), draft_(draft) {
-        coast_.Dropped = draft.Dropped();
+        coast_.Dropped = draft.Dropped;
     }
 
     LaidCoast All() {
@@ -134,15 +137,10 @@ class Laying {
         coast_.Lines.push_back({std::move(points), source.LandOnLeft, source.Origin});
     }
 
-    bool Is_on_map_edge(Position place) const {
-        return place[0] == map_.First[0] || place[0] == map_.Last[0] || place[1] == map_.First[1] ||
-               place[1] == map_.Last[1];
-    }
-
     // A line that ends inside the map is taken back to the last cell edge that it crosses.
     void Add_open(const std::vector<Position>& placed, const MapLine& source) {
-        const bool starts_inside = !Is_on_map_edge(placed.front());
-        const bool ends_inside = !Is_on_map_edge(placed.back());
+        const bool starts_inside = !map_.Is_on_edge(placed.front());
+        const bool ends_inside = !map_.Is_on_edge(placed.back());
         CellPath path = Cut_at_cell_edges(placed);
         const std::size_t needed = (starts_inside ? 1U : 0U) + (ends_inside ? 1U : 0U);
         if (path.Crossings.size() < needed) {
@@ -193,9 +191,10 @@ class Laying {
     LaidCoast coast_;
 };
 
-LaidCoast Laid_at(const std::vector<DraftLine>& lines, const MapUnits& map, double tolerance) {
+LaidCoast Laid_at(const std::vector<DraftLine>& lines, const MapUnits& map, double tolerance,
+                  TouchingSteps& touching) {
     CoastDraft draft(lines, map, tolerance);
-    draft.Part_lines();
+    Part_lines(draft, touching);
     LaidCoast coast = Laying(map, draft).All();
     coast.Tolerance = tolerance;
     return coast;
@@ -248,15 +247,16 @@ LaidCoast Lay_coast(const Project& project, std::span<const CoastLine> lines,
     double low = std::max(std::max(options.Tolerance, LeastGain),
                           Least_tolerance(drafts, options.MostPoints));
     double high = low;
-    LaidCoast laid = Laid_at(drafts, map, high);
+    const auto touching = std::make_unique<TouchingSteps>();
+    LaidCoast laid = Laid_at(drafts, map, high, *touching);
     while (laid.Points > options.MostPoints && high < MaxTolerance) {
         low = high;
         high *= Raise;
-        laid = Laid_at(drafts, map, high);
+        laid = Laid_at(drafts, map, high, *touching);
     }
     for (int i = 0; i < Halvings && low < high; ++i) {
         const double middle = (low + high) / 2;
-        LaidCoast finer = Laid_at(drafts, map, middle);
+        LaidCoast finer = Laid_at(drafts, map, middle, *touching);
         const bool fits = finer.Points <= options.MostPoints;
         (fits ? high : low) = middle;
         if (fits) laid = std::move(finer);
@@ -266,10 +266,9 @@ LaidCoast Lay_coast(const Project& project, std::span<const CoastLine> lines,
 }
 
 std::string Laid_text(const LaidCoast& coast, int free) {
-    const std::size_t lines = coast.Lines.size();
-    return std::to_string(lines) + (lines == 1 ? " line, " : " lines, ") +
-           std::to_string(coast.Points) + " points of " + std::to_string(free) +
-           " free, off by at most " + Short_number(coast.Deviation) +
+    return Counted(coast.Lines.size(), "line") + ", " + std::to_string(coast.Points) +
+           " points of " + std::to_string(free) + " free, off by at most " +
+           Short_number(coast.Deviation) +
            " units = " + std::to_string(std::lround(coast.Deviation * MetresToAUnit)) + " m";
 }
 

@@ -13,7 +13,7 @@
 
 namespace tidemark {
 
-// VTP units; a laid line keeps that near to the file's, but for what the cell edges ask for.
+// VTP units; a laid line keeps that near to the file's, except where cell edges ask for more.
 inline constexpr double DefaultTolerance = 4;
 
 struct LayOptions {

@@ -13,6 +13,7 @@
 #include "lwm/polygon_builder.h"
 #include "model/drawing_modes.h"
 #include "model/records.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -137,9 +138,9 @@ void Rebuild_polygons(Project& p, const std::set<int>& wanted) {
 std::string No_room_for(int points, const Project& p) {
     if (points <= MaxVTPCount) return "";
     const int needed = points - p.VTPCount, free = MaxVTPCount - p.VTPCount;
-    return "Nothing was mended: " + std::to_string(needed) +
-           (needed == 1 ? " more point is needed, and " : " more points are needed, and ") +
-           std::to_string(free) + (free == 1 ? " is free." : " are free.");
+    return "Nothing was mended: " +
+           Counted(needed, "more point is needed, and", "more points are needed, and") + " " +
+           Counted(free, "is free.", "are free.");
 }
 
 // An end of a coastline on the other side of the edge that this one is to meet: at most

@@ -1,4 +1,4 @@
-// Positions on the map as the coast rules reckon with them: whole numbers by axis, so that one rule
+// Positions on the map for the coast rules to compute with: whole numbers by axis, so that one rule
 // serves both.
 #pragma once
 

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <optional>
 #include <shapefil.h>
 #include <string>
@@ -12,7 +11,7 @@
 
 namespace tidemark {
 
-// The file with the same name but for its extension, in whatever case that is written.
+// The file with the same name except for its extension, in whatever case that is written.
 std::optional<std::filesystem::path> File_beside(const std::filesystem::path& path,
                                                  const std::string& extension);
 

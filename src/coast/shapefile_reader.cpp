@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cctype>
 #include <cmath>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 
+#include "coast/coordinate_system.h"
 #include "coast/shapefile_bytes.h"
 
 namespace tidemark {
@@ -73,25 +72,25 @@ void Check_header(const fs::path& path) {
                                    " bytes, but its header says " + std::to_string(claimed)};
 }
 
-// Refuses a coordinate system that is not in degrees, as its well-known text says it.
-void Check_projection(const fs::path& path) {
+// Refuses coordinates that are no degrees from Greenwich, as far as the file beside it says so.
+void Check_coordinates(const fs::path& path, CoastRuns& runs) {
     const auto file = File_beside(path, ".prj");
     if (!file) return;
     ShapefileBytes bytes(*file);
     std::string text(LongestProjection, ' ');
     text.resize(bytes.Is_open() ? bytes.Read(text.data(), LongestProjection) : 0);
-    std::string upper = text;
-    for (char& letter : upper)
-        letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
-    for (const std::string_view projected : {"PROJCS", "PROJCRS", "PROJECTEDCRS"}) {
-        const auto found = upper.find(projected);
-        if (found == upper.npos) continue;
-        const auto start = text.find('"', found);
-        const auto end = start == text.npos ? start : text.find('"', start + 1);
-        const std::string name = end == text.npos ? "" : text.substr(start, end + 1 - start) + " ";
-        throw CoastRefusal{"", "its coordinates are projected: " + name + "in " + Name_of(*file) +
+    const CoordinateSystem system = Coordinate_system(text);
+    const std::string name = Name_of(*file);
+    if (system.IsProjected)
+        throw CoastRefusal{"", "its coordinates are projected: " + system.Projection +
+                                   (system.Projection.empty() ? "" : " ") + "in " + name +
                                    "; only longitude and latitude in degrees can be read"};
-    }
+    if (!system.PrimeMeridian.empty())
+        throw CoastRefusal{"", "its longitudes count from " + system.PrimeMeridian + " in " + name +
+                                   "; only those from Greenwich can be read"};
+    if (!system.OtherDatum.empty())
+        runs.Remark("the datum " + system.OtherDatum + " in " + name +
+                    " is taken for WGS 84; positions may be off by some 100 m");
 }
 
 bool Is_line(int type) {
@@ -192,7 +191,7 @@ void Read_shapefile(const fs::path& path, CoastRuns& runs, const CoastProgress& 
                                    " is not beside it"};
     Check_header(path);
     Check_header(*index);
-    Check_projection(path);
+    Check_coordinates(path, runs);
     SAHooks hooks = Shapefile_hooks();
     const std::u8string name = path.u8string();
     const Shapefile file(SHPOpenLL(std::string(name.begin(), name.end()).c_str(), "rb", &hooks));

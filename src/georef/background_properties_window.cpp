@@ -79,8 +79,7 @@ void BGproperties::Lay_out() {
 
 QWidget* BGproperties::LOD8_frame() {
     auto* const frame = new QGroupBox("LOD 8 Cell Co-ordinates");
-    auto* const calculator = new QPushButton("Cell Calculator");
-    calculator->setObjectName("ShowCalc");
+    auto* const calculator = Named<QPushButton>("ShowCalc", "Cell Calculator");
     calculator->setAutoDefault(false);
     connect(calculator, &QPushButton::clicked, this, &BGproperties::ShowCalc_Click);
 

@@ -13,9 +13,7 @@ namespace tidemark {
 namespace {
 
 QComboBox* Hemispheres(const char* name, const char* spoken, const QStringList& items) {
-    auto* const combo = new QComboBox;
-    combo->setObjectName(name);
-    combo->setAccessibleName(spoken);
+    auto* const combo = Captionless<QComboBox>(name, spoken);
     combo->addItems(items);
     return combo;
 }

@@ -1,4 +1,4 @@
-// The place that the user wants to be shown, told in one of three ways.
+// The place that the user wants to be shown, entered in one of three ways.
 #pragma once
 
 #include <optional>

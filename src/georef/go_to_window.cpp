@@ -1,6 +1,5 @@
 #include "georef/go_to_window.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 
 #include "platform/qt_active_window.h"
@@ -49,11 +48,8 @@ void GoTo::Lay_out() {
         grid->addWidget(fields_[2 * row], line, 1);
         grid->addWidget(fields_[2 * row + 1], line, 2);
     }
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    QDialogButtonBox* const buttons = Ok_and_cancel(*this);
     OkButton_ = buttons->button(QDialogButtonBox::Ok);
-    OkButton_->setObjectName("OkButton");
-    connect(buttons, &QDialogButtonBox::accepted, this, &GoTo::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &GoTo::reject);
     grid->addWidget(RemarkLabel_, 3, 0, 1, 3);
     grid->addWidget(buttons, 4, 0, 1, 3);
     grid->setSizeConstraint(QLayout::SetFixedSize);

@@ -15,7 +15,7 @@ enum class Place { Outside, OnBoundary, Inside };
 // The walk along the coastlines, point by point.
 class CoastWalk {
   public:
-    explicit CoastWalk(CellEdges& edges) : edges_(edges) {}
+    CoastWalk(CellPoints& points, CellEdges& edges) : points_(points), edges_(edges) {}
 
     void First_point(int i) {
         const Place place = Place_of(i);
@@ -27,7 +27,7 @@ class CoastWalk {
     void Middle_point(int i) {
         switch (Place_of(i)) {
             case Place::Inside:
-                if (outside_) edges_.Add_Edge_Crossing(i, false);
+                if (outside_) Add_crossing(i, false);
                 Add_point(i, EdgeType::Interior, true);
                 outside_ = false;
                 break;
@@ -36,7 +36,7 @@ class CoastWalk {
                 outside_ = !outside_;
                 break;
             case Place::Outside:
-                if (!outside_) edges_.Add_Edge_Crossing(i, true);
+                if (!outside_) Add_crossing(i, true);
                 outside_ = true;
         }
     }
@@ -44,27 +44,32 @@ class CoastWalk {
     void Last_point(int i) {
         switch (Place_of(i)) {
             case Place::Inside:
-                if (outside_) edges_.Add_Edge_Crossing(i, false);
+                if (outside_) Add_crossing(i, false);
                 Add_point(i, EdgeType::Terminal, true);
                 break;
             case Place::OnBoundary:
                 if (!outside_) Add_point(i, EdgeType::Boundary, true);
                 break;
             case Place::Outside:
-                if (!outside_) edges_.Add_Edge_Crossing(i, true);
+                if (!outside_) Add_crossing(i, true);
         }
     }
 
   private:
     Place Place_of(int i) {
-        if (!edges_.Point_in_cell(i)) return Place::Outside;
-        return Is_on_boundary(edges_.PointInCell()) ? Place::OnBoundary : Place::Inside;
+        if (!points_.Point_in_cell(i)) return Place::Outside;
+        return Is_on_boundary(points_.PointInCell()) ? Place::OnBoundary : Place::Inside;
     }
 
     void Add_point(int i, EdgeType type, bool linked) {
-        edges_.Add_Edge_Point(i, edges_.PointInCell(), type, linked);
+        edges_.Add_Edge_Point(i, points_.PointInCell(), type, linked);
     }
 
+    void Add_crossing(int i, bool linked) {
+        edges_.Add_Edge_Point(i, points_.Crossing(i), EdgeType::Boundary, linked);
+    }
+
+    CellPoints& points_;
     CellEdges& edges_;
     bool outside_ = true;
 };
@@ -131,8 +136,9 @@ void Refuse_terminal_points(int terminals, Messages& messages) {
 
 }  // namespace
 
-void Collect_edge_points(CellEdges& edges, const Project& project) {
-    CoastWalk walk(edges);
+CellEdges Edge_points_of(const Project& project, CellPoints& points) {
+    CellEdges edges;
+    CoastWalk walk(points, edges);
     bool takes_part = false;
     for (int i = 1; i <= project.VTPCount; ++i) {
         const bool starts = project.VTPSegStart(i);
@@ -143,6 +149,7 @@ void Collect_edge_points(CellEdges& edges, const Project& project) {
         if (!starts && !ends) walk.Middle_point(i);
         if (ends) walk.Last_point(i);
     }
+    return edges;
 }
 
 void Assign_edges(CellEdges& edges) {

@@ -7,10 +7,10 @@
 
 namespace tidemark {
 
-// Walks all coastlines and adds the stretches of them that lie in the cell: every point in it, and
-// the crossing wherever a step leaves or enters. A stretch without a point in the cell leaves no
-// trace.
-void Collect_edge_points(CellEdges& edges, const Project& project);
+// Walks all coastlines of the project and takes the stretches of them that lie in the cell: every
+// point in it, and the crossing wherever a step leaves or enters. A stretch without a point in the
+// cell leaves no trace. Throws Overflow as CellPoints does.
+CellEdges Edge_points_of(const Project& project, CellPoints& points);
 
 // Says of every boundary point on which edge it lies; a corner belongs to the top or bottom one.
 void Assign_edges(CellEdges& edges);

@@ -17,14 +17,6 @@ KillFrame::KillFrame(Document& document, Session& session, Messages& messages, Q
           {[&document] { return Kill_list_lines(document.Now()); }, session.Panel.SelectedCell,
            [&document, &session] { Delete_selected_cleared_cell(document, session); }})) {
     (new QVBoxLayout(this))->addWidget(KillListBox_);
-    connect(KillListBox_, &ListBox::Clicked, this, [this] {
-        session_.LastChosen = ListKind::ClearedCells;
-        Q_EMIT Graphics_outdated();
-    });
-    connect(KillListBox_, &ListBox::Double_clicked, this, [this] {
-        session_.LastChosen = ListKind::ClearedCells;
-        Q_EMIT Show_wanted();
-    });
 }
 
 void KillFrame::Add_Kill_Cell() {

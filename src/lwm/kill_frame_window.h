@@ -20,10 +20,6 @@ class KillFrame : public QGroupBox {
     // Shows the project's cleared cells and the selection as they are now.
     void Refresh();
 
-  Q_SIGNALS:
-    void Show_wanted();        // the map is to show what is selected
-    void Graphics_outdated();  // another entry was selected, and the map has to be drawn again
-
   private:
     Document& document_;
     Session& session_;

@@ -4,6 +4,7 @@
 #include "model/drawing_modes.h"
 #include "model/list_selection.h"
 #include "model/text_forms.h"
+#include "model/vtp_data.h"
 
 namespace tidemark {
 
@@ -43,7 +44,7 @@ void Delete_Kill_Cell(Project& project, int entry) {
 void Refresh_Kill_List(const Project& project, Session& session) {
     PanelState& panel = session.Panel;
     panel.SelectedCell = Selected_after_refresh(panel.SelectedCell, project.KillCount);
-    if (project.PrefsSet) panel.VTPsave = Has_VTP_data(project);
+    Refresh_VTPsave(project, panel);
 }
 
 }  // namespace tidemark

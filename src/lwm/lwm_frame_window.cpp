@@ -4,6 +4,7 @@
 
 #include "lwm/lwm_commands.h"
 #include "lwm/lwm_list.h"
+#include "model/text_forms.h"
 #include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 
@@ -22,14 +23,6 @@ LWMFrame::LWMFrame(Document& document, Session& session, Messages& messages, QWi
       PolyHeightText_(Named_field("PolyHeightText", "Height in metres", "0")),
       ConformOption_(Named<QRadioButton>("ConformOption", "Conform to existing terrain")) {
     Lay_out();
-    connect(LWMlistBox_, &ListBox::Clicked, this, [this] {
-        session_.LastChosen = ListKind::Polygons;
-        Q_EMIT Graphics_outdated();
-    });
-    connect(LWMlistBox_, &ListBox::Double_clicked, this, [this] {
-        session_.LastChosen = ListKind::Polygons;
-        Q_EMIT Show_wanted();
-    });
     connect(ConformOption_, &QRadioButton::toggled, PolyHeightText_, &QLineEdit::setDisabled);
     ConformOption_->setChecked(true);
 }
@@ -51,11 +44,12 @@ void LWMFrame::Mode_chosen(const DrawingMode& mode) {
 LWMPolyResult LWMFrame::Add_LWM_Poly() {
     const HeightChoice choice =
         ConformOption_->isChecked() ? HeightChoice::Conform : HeightChoice::Explicit;
-    LWMPolyResult result =
-        Click_polygon(document_, session_, choice, From_qt(PolyHeightText_->text()), messages_);
-    PolyHeightText_->setText(To_qt(result.HeightText));
-    Q_EMIT Remarked(To_qt(result.StatusLine));
-    return result;
+    std::string height = From_qt(PolyHeightText_->text());
+    if (choice == HeightChoice::Explicit) {
+        height = Whole_number_text(height);
+        PolyHeightText_->setText(To_qt(height));  // before a warning stands over it
+    }
+    return Click_polygon(document_, session_, choice, height, messages_);
 }
 
 void LWMFrame::Refresh() {

@@ -27,12 +27,6 @@ class LWMFrame : public QGroupBox {
     // Shows the project's polygons and the selection as they are now.
     void Refresh();
 
-  Q_SIGNALS:
-    void Show_wanted();        // the map is to show what is selected
-    void Graphics_outdated();  // another polygon was selected, and the map has to be drawn again
-    // One quiet line about the polygon that was added; empty when there is nothing to say.
-    void Remarked(const QString& text);
-
   private:
     void Lay_out();
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "lwm/polygon_candidates.h"
 #include "model/text_forms.h"
@@ -19,18 +20,13 @@ std::optional<Int16> Whole_metres(std::string_view text) {
     }
 }
 
-struct HeightResult {
-    std::string Text;             // what the height box holds afterwards
-    std::optional<Int16> Height;  // nothing when it was refused
-};
-
-HeightResult Take_height(HeightChoice choice, std::string_view text, Messages& messages) {
-    if (choice == HeightChoice::Conform) return {std::string(text), ConformsHeight};
+// Nothing when it was refused.
+std::optional<Int16> Take_height(HeightChoice choice, std::string_view text, Messages& messages) {
+    if (choice == HeightChoice::Conform) return ConformsHeight;
     const std::optional<Int16> height = Whole_metres(text);
-    const std::string shown = height ? Int_text(*height) : std::string(text);
-    if (height && *height >= 0 && *height <= MaxLWMHeight) return {shown, height};
+    if (height && *height >= 0 && *height <= MaxLWMHeight) return height;
     Warn(messages, "Height value must be in the range 0-10000");
-    return {shown, std::nullopt};
+    return std::nullopt;
 }
 
 // The click is strictly inside the bounding box.
@@ -147,8 +143,8 @@ bool Surrounds(const Outline& outline, CellPoint place) {
 
 LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,
                            HeightChoice choice, std::string_view height_text) {
-    auto [text, height] = Take_height(choice, height_text, messages);
-    LWMPolyResult result{std::move(text), false, "", false};
+    const std::optional<Int16> height = Take_height(choice, height_text, messages);
+    LWMPolyResult result;
     if (!height) return result;
     result.IsRefusedByCoast = true;  // until a piece of the cell is found
     const std::vector<Outline> candidates = Candidate_polygons(project, session, messages);

@@ -16,7 +16,6 @@ namespace tidemark {
 enum class HeightChoice { Explicit, Conform };
 
 struct LWMPolyResult {
-    std::string HeightText;  // as the height box reads afterwards
     bool Added = false;
     std::string StatusLine;         // a quiet remark on the polygon that was added; empty: none
     bool IsRefusedByCoast = false;  // the coastlines of the cell stood in the way
@@ -28,8 +27,7 @@ struct LWMPolyResult {
 // is appended.
 //
 // An explicit height is rounded to whole metres (halves to the even neighbour, 0 without a leading
-// number) and refused outside 0..10000; one that does not fit 16 bits stays in the box as it was
-// typed. A polygon that conforms to the terrain leaves the height text alone.
+// number) and refused outside 0..10000.
 //
 // Throws Overflow, before anything is appended, for points too far away for 16-bit arithmetic.
 LWMPolyResult Add_LWM_Poly(Project& project, const Session& session, Messages& messages,

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <optional>
+#include <utility>
 
 #include "lwm/edge_points.h"
 #include "model/text_forms.h"
@@ -33,18 +33,44 @@ int Distance(const CellEdge& edge, CellPoint from, CellPoint to) {
     return (int{to.*edge.Along} - int{from.*edge.Along}) * edge.Direction;
 }
 
-// Builds one candidate after the other from the chains that end on the boundary.
+// The candidates as they are built, one after the other.
+class Candidates {
+  public:
+    explicit Candidates(Messages& messages) : messages_(messages) {}
+
+    void Begin() { outlines_.emplace_back(); }
+    // Appends a vertex to the last one. A vertex beyond the 200th is dropped with a warning.
+    void Add(CellPoint vertex) {
+        if (outlines_.back().size() < MaxLWMPointCount)
+            outlines_.back().push_back(vertex);
+        else
+            Warn(messages_,
+                 "Fatal error - polygon overflow\n"
+                 "Likely cause is a VTP segment without a point in a cell through which it passes");
+    }
+    // Leaves the last one in its place without vertices.
+    void Drop() { outlines_.back().clear(); }
+
+    std::vector<Outline> Take() { return std::move(outlines_); }
+
+  private:
+    std::vector<Outline> outlines_;
+    Messages& messages_;
+};
+
+// Builds candidates from the chains that end on the boundary.
 class CandidateWalks {
   public:
-    CandidateWalks(CellEdges& edges, Messages& messages) : edges_(edges), messages_(messages) {
+    CandidateWalks(const CellEdges& edges, Candidates& candidates, Messages& messages)
+        : edges_(edges), candidates_(candidates), messages_(messages) {
         for (int e = 1; e <= edges.EdgePointCount; ++e)
             if (Is_edge(edges.EdgePointType(e))) EdgeStart_.push_back(e);
     }
 
     void Build_all() {
         for (const int start : EdgeStart_) {
-            ++edges_.PolyNumber;
-            if (!Build_from(start)) Drop();
+            candidates_.Begin();
+            if (!Build_from(start)) candidates_.Drop();
         }
     }
 
@@ -72,12 +98,12 @@ class CandidateWalks {
     // Appends the chain from the edge point to the other end, which it returns; nothing when the
     // chain runs in a circle.
     std::optional<int> Follow_chain(int e) {
-        edges_.Add_Poly_Edge_Point(e);
+        candidates_.Add(edges_.EdgePoint(e));
         const bool forward = edges_.EdgePointLink(e) == 0;
         for (int passed = 1; passed <= edges_.EdgePointCount; ++passed) {
             const int next = forward ? edges_.Next_edge_point(e) : edges_.EdgePointLink(e);
             if (next == 0) return e;
-            edges_.Add_Poly_Edge_Point(next);
+            candidates_.Add(edges_.EdgePoint(next));
             e = next;
         }
         return std::nullopt;
@@ -92,7 +118,7 @@ class CandidateWalks {
             });
         if (const int found = Next_on(*edge, edges_.EdgePoint(far_end))) return found;
         for (std::size_t corners = 0; corners < Clockwise.size(); ++corners) {
-            edges_.Add_Poly_Point(edge->Corner);
+            candidates_.Add(edge->Corner);
             if (++edge == Clockwise.end()) edge = Clockwise.begin();
             if (const int found = Next_on(*edge, std::nullopt)) return found;
         }
@@ -121,35 +147,35 @@ class CandidateWalks {
                              [&](int e) { return edges_.EdgePoint(e) == place; });
     }
 
-    void Drop() { edges_.PolyPoint[static_cast<std::size_t>(edges_.PolyNumber)].clear(); }
-
-    CellEdges& edges_;
+    const CellEdges& edges_;
+    Candidates& candidates_;
     Messages& messages_;
     std::vector<int> EdgeStart_;  // the boundary points, by number
 };
 
 // The first coastline that lies wholly inside the cell.
-void Build_inner_outline(CellEdges& edges, Messages& messages) {
+void Build_inner_outline(const CellEdges& edges, Candidates& candidates, Messages& messages) {
     Inform(messages, "Tidemark - Information",
            "One or more VTP segments which are entirely inside this cell have detected. \n"
            "Tidemark will draw a polygon around the points of the first VTP segment detected.");
     int e = 1;
     while (edges.EdgePointLink(e) != 0) ++e;
-    for (; e != 0; e = edges.Next_edge_point(e)) edges.Add_Poly_Edge_Point(e);
+    for (; e != 0; e = edges.Next_edge_point(e)) candidates.Add(edges.EdgePoint(e));
 }
 
-void Build_whole_cell(CellEdges& edges) {
+void Build_whole_cell(Candidates& candidates) {
     for (const CellPoint corner :
          {CellPoint{0, 0}, {LastCellUnit, 0}, {LastCellUnit, LastCellUnit}, {0, LastCellUnit}})
-        edges.Add_Poly_Point(corner);
+        candidates.Add(corner);
 }
 
-void Build_without_boundary_points(CellEdges& edges, Messages& messages) {
-    edges.PolyNumber = 1;
+void Build_without_boundary_points(const CellEdges& edges, Candidates& candidates,
+                                   Messages& messages) {
+    candidates.Begin();
     if (Count_edge_points(edges, EdgeType::Interior) > 0)
-        Build_inner_outline(edges, messages);
+        Build_inner_outline(edges, candidates, messages);
     else
-        Build_whole_cell(edges);
+        Build_whole_cell(candidates);
 }
 
 // False when there are too many boundary points, or half a pair.
@@ -166,16 +192,16 @@ bool Check_boundary_points(int count, Messages& messages) {
 }
 
 // False when the cell is refused.
-bool Build_candidates(CellEdges& edges, Messages& messages) {
+bool Build_candidates(CellEdges& edges, Candidates& candidates, Messages& messages) {
     const int terminals = Count_edge_points(edges, EdgeType::Terminal);
     const int boundary_points = Count_boundary_points(edges);
     if (boundary_points == 0) {
-        Build_without_boundary_points(edges, messages);
+        Build_without_boundary_points(edges, candidates, messages);
         return true;
     }
     if (terminals > 0 && !Join_terminal_points(edges, terminals, messages)) return false;
     if (!Check_boundary_points(boundary_points, messages)) return false;
-    CandidateWalks(edges, messages).Build_all();
+    CandidateWalks(edges, candidates, messages).Build_all();
     return true;
 }
 
@@ -183,8 +209,8 @@ bool Build_candidates(CellEdges& edges, Messages& messages) {
 
 std::vector<Outline> Candidate_polygons(Project& project, const Session& session,
                                         Messages& messages) {
-    CellEdges edges(project, session, messages);
-    Collect_edge_points(edges, project);
+    CellPoints points(project, session);
+    CellEdges edges = Edge_points_of(project, points);
     return Candidates_from(edges, messages);
 }
 
@@ -195,9 +221,9 @@ std::vector<Outline> Candidates_from(CellEdges& edges, Messages& messages) {
         return {};
     }
     Assign_edges(edges);
-    if (!Build_candidates(edges, messages)) return {};
-    const auto first = edges.PolyPoint.begin() + 1;
-    return {std::make_move_iterator(first), std::make_move_iterator(first + edges.PolyNumber)};
+    Candidates candidates(messages);
+    if (!Build_candidates(edges, candidates, messages)) return {};
+    return candidates.Take();
 }
 
 }  // namespace tidemark

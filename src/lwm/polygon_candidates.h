@@ -18,11 +18,11 @@ namespace tidemark {
 //
 // Speaks through the messages; when the cell is refused there are no candidates. A candidate whose
 // walk would never come back to its start is dropped: it stays in its place without vertices.
-// Of the project only PointInCellX and PointInCellY change. Throws Overflow as CellEdges does.
+// Of the project only PointInCellX and PointInCellY change. Throws Overflow as CellPoints does.
 std::vector<Outline> Candidate_polygons(Project& project, const Session& session,
                                         Messages& messages);
 
-// The same from the edge points that Collect_edge_points has found, which it takes apart.
+// The same from the edge points that Edge_points_of has found, which it takes apart.
 std::vector<Outline> Candidates_from(CellEdges& edges, Messages& messages);
 
 }  // namespace tidemark

@@ -1,10 +1,10 @@
-// Which line of a Status panel list is selected after the list has changed, and when the Output
-// menu can save. List positions count from 0; -1 stands for nothing selected.
+// Which line of a Status panel list is selected after the list has changed. List positions count
+// from 0; -1 stands for nothing selected.
 #pragma once
 
 #include <algorithm>
 
-#include "model/project.h"
+#include "model/int16.h"
 
 namespace tidemark {
 
@@ -25,11 +25,6 @@ void Delete_selected(int& selected, const Int16& count, const Remove& remove) {
     if (selected < 0) return;
     remove(selected + 1);
     selected = Selected_after_delete(selected, count);
-}
-
-// There is something to write: the VTP file carries the points and the cleared cells.
-inline bool Has_VTP_data(const Project& project) {
-    return project.VTPCount + project.KillCount > 0;
 }
 
 }  // namespace tidemark

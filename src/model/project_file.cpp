@@ -1,8 +1,11 @@
 #include "model/project_file.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <memory>
+#include <system_error>
+#include <utility>
 
 #include "model/encoding.h"
 #include "model/line_writer.h"
@@ -31,6 +34,21 @@ class LineReader {
         if (has_CR && !rest.starts_with("\r\n")) return Read_line_with_CRs();
         BufferPos = std::min(end + (has_CR ? 2 : 1), FileBuffer.size());
         return FileBuffer.substr(start, end - start);
+    }
+
+    // Reads the next line if it is a whole number as a project file is written with, which nearly
+    // every line is; otherwise nothing is read.
+    std::optional<Int16> Read_whole_number() {
+        const char* at = FileBuffer.data() + BufferPos;
+        const char* const last = FileBuffer.data() + FileBuffer.size();
+        if (at != last && *at == ' ') ++at;
+        int value = 0;
+        const auto [end, error] = std::from_chars(at, last, value);
+        const bool is_whole_line = last - end >= 2 && end[0] == '\r' && end[1] == '\n';
+        if (error != std::errc() || !is_whole_line || !Int16::Fits(value)) return std::nullopt;
+        ++line_;
+        BufferPos = static_cast<std::size_t>(end - FileBuffer.data()) + 2;
+        return value;
     }
 
     int Line() const { return line_; }          // the line read last, from 1
@@ -65,6 +83,10 @@ class Reader {
     explicit Reader(LineReader& lines) : lines_(lines) {}
 
     void operator()(const char* name, Int16& value) {
+        if (const auto whole = lines_.Read_whole_number()) {
+            value = *whole;
+            return;
+        }
         const std::string_view line = lines_.Read_line();
         try {
             value = Int_value(line);
@@ -112,6 +134,7 @@ class Writer {
     explicit Writer(LineWriter& lines) : lines_(lines) {}
 
     void operator()(const char*, const std::string& value) { lines_.Write_line(value); }
+    void operator()(const char*, const Int16& value) { lines_.Write_number(value); }
     template <class T>
     void operator()(const char*, const T& value) {
         lines_.Write_line(Blank_text(value));
@@ -173,7 +196,8 @@ ProjectFileReading Read_project(std::string_view bytes, Project& project) {
 }
 
 std::string Project_bytes(const Project& project, std::string_view saved_on) {
-    LineWriter lines;
+    constexpr std::size_t largest = 512 << 10;  // full tables fill 505,346 bytes
+    LineWriter lines(largest);
     Writer writer(lines);
     lines.Write_line(project.ProjectFile, " saved on ", saved_on);
     Visit_project(project, writer);

@@ -68,7 +68,7 @@ std::string Project_bytes(const Project& project, std::string_view saved_on);
 // every line after it, and MaxTextLength bytes at most.
 bool Is_savable(std::string_view text);
 
-// What the user is told of a chosen name that cannot.
+// What the warning about a chosen name says that cannot.
 inline constexpr std::string_view UnsavableNameText =
     "This name cannot be used: it holds a line end or a NUL, or it is too long.";
 

@@ -1,8 +1,7 @@
-// The order of the values in a project file, told once for its reader and its writer.
+// The order of the values in a project file, written down once for its reader and its writer.
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "model/project.h"
 

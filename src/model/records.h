@@ -29,7 +29,7 @@ struct LWMRecord {
     bool operator==(const LWMRecord&) const = default;
 };
 
-// Each table, told alike: how many entries it has, one entry, and setting one.
+// Each table by the same functions: how many entries it has, one entry, and setting one.
 
 struct PointTable {
     using Record = VTPRecord;

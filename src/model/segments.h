@@ -1,4 +1,4 @@
-// Segments: runs of consecutive VTP points, told by the flags on the points themselves.
+// Segments: runs of consecutive VTP points, marked by flags on the points themselves.
 #pragma once
 
 #include <vector>

@@ -45,11 +45,22 @@ std::string Int_text(Int16 value) {
     return std::to_string(int{value});
 }
 
+std::string Counted(std::size_t count, std::string_view one, std::string_view several) {
+    const std::string number = std::to_string(count) + " ";
+    if (count == 1) return number + std::string(one);
+    return several.empty() ? number + std::string(one) + "s" : number + std::string(several);
+}
+
 std::string Blank_text(Int16 value) {
-    std::array<char, 8> text{' '};
-    char* const start = value < 0 ? text.data() : text.data() + 1;
-    const char* const end = std::to_chars(start, text.data() + text.size(), int{value}).ptr;
+    std::array<char, MaxIntText> text;
+    const char* const end = Put_blank_text(text.data(), value);
     return {text.data(), static_cast<std::size_t>(end - text.data())};
+}
+
+char* Put_blank_text(char* at, Int16 value) {
+    char* const start = value < 0 ? at : at + 1;
+    *at = ' ';
+    return std::to_chars(start, at + MaxIntText, int{value}).ptr;
 }
 
 std::string Blank_text(float value) {
@@ -90,6 +101,14 @@ Int16 Int_value(std::string_view text) {
     const auto [end, error] = std::from_chars(number.data(), last, whole);
     if (error == std::errc() && end == last) return whole;
     return Round_half_even(Numeric_value(text));
+}
+
+std::string Whole_number_text(std::string_view text) {
+    try {
+        return Int_text(Int_value(text));
+    } catch (const Overflow&) {
+        return std::string(text);
+    }
 }
 
 }  // namespace tidemark

@@ -1,5 +1,6 @@
 #include "output/after_save.h"
 
+#include <memory>
 #include <optional>
 #include <utility>
 

@@ -1,6 +1,7 @@
 #include "output/assembler_files.h"
 
 #include <optional>
+#include <vector>
 
 #include "model/drawing_modes.h"
 #include "model/segments.h"
@@ -20,22 +21,23 @@ bool Has_single_point_segment(const Project& project) {
 }
 
 // The first point that starts a segment of a drawing mode no texture goes with.
-std::optional<int> Point_of_unknown_mode(const Project& project) {
-    for (const Segment& segment : Segments(project))
+std::optional<int> Point_of_unknown_mode(const std::vector<Segment>& segments) {
+    for (const Segment& segment : segments)
         if (!Find_mode(segment.Mode, Adds::Point)) return segment.First;
     return std::nullopt;
 }
 
 // Why there is no VTP file of this project, in words; nothing when there is one.
-std::optional<std::string> VTP_refusal(const Project& project) {
+std::optional<std::string> VTP_refusal(const Project& project,
+                                       const std::vector<Segment>& segments) {
     if (Has_single_point_segment(project))
         return "VTP file generation aborted - there is a VTP segment with only one point in it!\n"
                "Please delete this point and try again.";
-    if (const auto point = Point_of_unknown_mode(project))
+    if (const auto point = Point_of_unknown_mode(segments))
         return "VTP file generation aborted - the segment that starts at point " +
                Int_text(*point) + " has the unknown drawing mode " +
                Int_text(project.VTPMode(*point)) + "!";
-    if (Written_segment_count(project) == 0 && project.KillCount == 0)
+    if (Written_segment_count(segments) == 0 && project.KillCount == 0)
         return "VTP file generation aborted - no valid coast segments or cell clearing data found "
                "in VTP data!";
     return std::nullopt;
@@ -56,12 +58,13 @@ bool Write_file(const std::string& path, std::string_view bytes, Messages& messa
 }
 
 bool Write_VTP_file(const Project& project, Messages& messages, Files& files) {
-    if (const auto refusal = VTP_refusal(project)) {
+    const std::vector<Segment> segments = Segments(project);
+    if (const auto refusal = VTP_refusal(project, segments)) {
         Warn(messages, *refusal);
         return false;
     }
     try {
-        return Write_file(project.VTPFileName, VTP_file_bytes(project), messages, files);
+        return Write_file(project.VTPFileName, VTP_file_bytes(project, segments), messages, files);
     } catch (const Overflow&) {
         Warn(messages, "VTP file generation aborted - a point lies too far outside the map!");
         return false;

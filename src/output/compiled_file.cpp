@@ -26,7 +26,7 @@ class Waiting {
     Waiting(const std::string& assembler_file, RunningProgram& compiler, Files& files)
         : assembler_file_(assembler_file), compiler_(compiler), files_(files) {}
 
-    // What has come of it so far; nothing while it has to go on.
+    // The result so far; nothing while it has to go on.
     std::optional<CompiledFile> Look() {
         const std::string name = Last_part(BGL_name(assembler_file_));
         const auto end = compiler_.End();

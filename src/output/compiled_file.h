@@ -17,7 +17,7 @@ std::optional<std::string> Find_compiled_file(const std::string& assembler_file,
 
 struct CompiledFile {
     std::optional<std::string> Path;  // when it is complete
-    std::string Problem;              // otherwise what the user is told; empty: nothing
+    std::string Problem;              // otherwise what the warning says; empty: none
 };
 
 // Waits until the compiled file is complete, and gives up when nothing more is to be expected (see

@@ -8,7 +8,7 @@
 
 namespace tidemark {
 
-// One of the documents, and what the user is told when no browser can be started.
+// One of the documents, and what the warning says when no browser can be started.
 struct HelpDocument {
     std::string_view File;
     std::string_view Warning;

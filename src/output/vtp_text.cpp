@@ -62,7 +62,8 @@ FilePoint Near_point(FilePoint end, FilePoint neighbour) {
 
 class VTPText {
   public:
-    explicit VTPText(const Project& project) : p(project), segments_(Segments(project)) {}
+    VTPText(const Project& project, const std::vector<Segment>& segments)
+        : p(project), segments_(segments) {}
 
     std::string Bytes() {
         Header();
@@ -190,20 +191,23 @@ class VTPText {
     }
 
     const Project& p;
-    const std::vector<Segment> segments_;
+    const std::vector<Segment>& segments_;
     LineWriter lines_;
 };
 
 }  // namespace
 
-int Written_segment_count(const Project& project) {
-    const std::vector<Segment> segments = Segments(project);
+int Written_segment_count(const std::vector<Segment>& segments) {
     return static_cast<int>(std::count_if(segments.begin(), segments.end(),
                                           [](const Segment& s) { return s.Mode > PlainSegment; }));
 }
 
+std::string VTP_file_bytes(const Project& project, const std::vector<Segment>& segments) {
+    return VTPText(project, segments).Bytes();
+}
+
 std::string VTP_file_bytes(const Project& project) {
-    return VTPText(project).Bytes();
+    return VTP_file_bytes(project, Segments(project));
 }
 
 }  // namespace tidemark

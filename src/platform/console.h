@@ -1,7 +1,6 @@
 // What a console program is called with, and how what it prints is shown.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,7 +14,16 @@ std::vector<std::string> Console_arguments(int argc, char** argv);
 // program. The argument itself when it fits no file, and wherever the shell has done it.
 std::vector<std::string> Files_meant(const std::string& argument);
 
-// As long as the result is kept, the console takes what is printed for UTF-8, where it can be told.
-[[nodiscard]] std::shared_ptr<void> Console_in_utf8();
+// As long as this lives, the console takes what is printed for UTF-8, where it can be told.
+class Utf8Console {
+  public:
+    Utf8Console();
+    Utf8Console(const Utf8Console&) = delete;
+    Utf8Console& operator=(const Utf8Console&) = delete;
+    ~Utf8Console();
+
+  private:
+    [[maybe_unused]] unsigned before_ = 0;  // the alphabet that it was told before; 0: none
+};
 
 }  // namespace tidemark

@@ -11,8 +11,7 @@ std::vector<std::string> Files_meant(const std::string& argument) {
     return {argument};
 }
 
-std::shared_ptr<void> Console_in_utf8() {
-    return nullptr;
-}
+Utf8Console::Utf8Console() = default;
+Utf8Console::~Utf8Console() = default;
 
 }  // namespace tidemark

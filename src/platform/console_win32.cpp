@@ -29,12 +29,12 @@ std::vector<std::string> Files_meant(const std::string& argument) {
     return files.empty() ? std::vector{argument} : files;
 }
 
-std::shared_ptr<void> Console_in_utf8() {
-    const UINT before = GetConsoleOutputCP();  // 0 without a console
+Utf8Console::Utf8Console() : before_(GetConsoleOutputCP()) {  // 0 without a console
     SetConsoleOutputCP(CP_UTF8);
-    return {nullptr, [before](void*) {
-                if (before != 0) SetConsoleOutputCP(before);
-            }};
+}
+
+Utf8Console::~Utf8Console() {
+    if (before_ != 0) SetConsoleOutputCP(before_);
 }
 
 }  // namespace tidemark

@@ -1,4 +1,4 @@
-// Signals that ask the program to end, told where it is safe to act on them.
+// Signals that ask the program to end, reported where it is safe to act on them.
 #pragma once
 
 namespace tidemark {

@@ -1,4 +1,6 @@
 // Locks by way of files that Windows lets nobody else open.
+#include <utility>
+
 #include "platform/file_lock.h"
 #include "platform/win32_error.h"
 #include "platform/win32_handle.h"

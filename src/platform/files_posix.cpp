@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <limits>
+#include <optional>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>

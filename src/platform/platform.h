@@ -12,6 +12,7 @@
 
 namespace tidemark {
 
+// The members are not capitalised as elsewhere: their types have those names.
 struct Platform {
     Messages& messages;
     Choosers& choosers;

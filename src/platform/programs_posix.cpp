@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/posix_descriptor.h"
 #include "platform/programs.h"

@@ -1,6 +1,6 @@
 // Programs by way of Windows' calls.
+#include <optional>
 #include <string_view>
-#include <utility>
 
 #include "platform/programs.h"
 #include "platform/win32_handle.h"

@@ -1,6 +1,8 @@
 // File choosers on the screen.
 #pragma once
 
+#include <optional>
+
 #include "platform/choosers.h"
 
 class QWidget;

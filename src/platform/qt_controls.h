@@ -1,8 +1,11 @@
-// Making controls that carry their own names.
+// Making controls that carry their own names, and what dialogs have in common.
 #pragma once
 
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QString>
 
 namespace tidemark {
@@ -20,6 +23,25 @@ inline QLineEdit* Named_field(const char* name, const QString& spoken, const QSt
     auto* const field = Named<QLineEdit>(name, text);
     field->setAccessibleName(spoken);
     return field;
+}
+
+// A control without a caption; `spoken` is what accessibility tools call it, unless a label says
+// it.
+template <class Control>
+Control* Captionless(const char* name, const QString& spoken = {}) {
+    auto* const control = new Control;
+    control->setObjectName(name);
+    control->setAccessibleName(spoken);
+    return control;
+}
+
+// The row of buttons with which a dialog is accepted or rejected; the first is "OkButton".
+inline QDialogButtonBox* Ok_and_cancel(QDialog& dialog) {
+    auto* const row = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    row->button(QDialogButtonBox::Ok)->setObjectName("OkButton");
+    QObject::connect(row, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(row, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    return row;
 }
 
 // For the fields of a window with an Undo of its own: as long as nothing that was typed can be

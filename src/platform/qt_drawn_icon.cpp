@@ -1,5 +1,7 @@
 #include "platform/qt_drawn_icon.h"
 
+#include <utility>
+
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>

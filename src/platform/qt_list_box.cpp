@@ -1,6 +1,7 @@
 #include "platform/qt_list_box.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractListModel>
 #include <QScopedValueRollback>

@@ -50,7 +50,7 @@ class MessageBox : public QMessageBox {
         label->setWordWrap(false);
         layout()->activate();
         setFixedSize(layout()->totalSizeHint());
-        QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);  // else it begins anew
+        QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);  // else it begins again
     }
 };
 

@@ -50,7 +50,7 @@ bool Is_escape(const QEvent& event) {
 }  // namespace
 
 bool QtPatience::Wait(const std::string& what_for, int milliseconds) {
-    if (!waiting_) Begin();
+    if (!busy_) Begin();
     status_bar_.showMessage(To_qt(what_for));
     if (!cancelled_) Let_pass(milliseconds, QEventLoop::AllEvents);
     return !cancelled_;
@@ -61,24 +61,22 @@ void QtPatience::Wait_a_moment(int milliseconds) {
 }
 
 void QtPatience::Over(const std::string& outcome) {
-    if (!waiting_) return;
-    waiting_ = false;
-    QGuiApplication::restoreOverrideCursor();
+    if (!busy_) return;
+    busy_.reset();
     status_bar_.removeWidget(cancel_button_);
     status_bar_.showMessage(To_qt(outcome));
     if (!to_close_.isEmpty()) QTimer::singleShot(0, this, &QtPatience::Close_windows);
 }
 
 void QtPatience::Begin() {
-    waiting_ = true;
+    busy_.emplace(Qt::BusyCursor);
     cancelled_ = false;
-    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
     if (!cancel_button_) {
         cancel_button_ = Named<QPushButton>("CancelButton", "Cancel");
         cancel_button_->setFocusPolicy(Qt::NoFocus);  // the keyboard has Esc, and stays where it is
         connect(cancel_button_, &QPushButton::clicked, this, &QtPatience::Cancel);
     }
-    // A higher status bar would leave the map less room, and have it loaded anew.
+    // A higher status bar would leave the map less room, and have it loaded again.
     cancel_button_->setFixedHeight(status_bar_.fontMetrics().height());
     status_bar_.addPermanentWidget(cancel_button_);
     cancel_button_->show();
@@ -95,7 +93,7 @@ void QtPatience::Let_pass(int milliseconds, QEventLoop::ProcessEventsFlags event
     });
     QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
     loop.exec(events);
-    if (!waiting_ && !to_close_.isEmpty()) QTimer::singleShot(0, this, &QtPatience::Close_windows);
+    if (!busy_ && !to_close_.isEmpty()) QTimer::singleShot(0, this, &QtPatience::Close_windows);
 }
 
 void QtPatience::Cancel() {

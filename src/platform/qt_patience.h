@@ -1,6 +1,8 @@
 // Waiting with windows on the screen.
 #pragma once
 
+#include <optional>
+
 #include <QEventLoop>
 #include <QObject>
 #include <QPointer>
@@ -8,6 +10,7 @@
 #include <QStatusBar>
 
 #include "platform/patience.h"
+#include "platform/qt_busy_cursor.h"
 
 namespace tidemark {
 
@@ -36,7 +39,7 @@ class QtPatience : public QObject, public Patience {
     QPointer<QPushButton> cancel_button_;  // made when it is first needed
     QEventLoop* loop_ = nullptr;
     QList<QPointer<QWidget>> to_close_;
-    bool waiting_ = false;
+    std::optional<BusyCursor> busy_;  // while something is waited for
     bool cancelled_ = false;
 };
 

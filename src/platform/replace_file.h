@@ -1,4 +1,4 @@
-// Replacing a file as a whole: one order of steps, told once for every system.
+// Replacing a file as a whole: one order of steps, written once for every system.
 #pragma once
 
 #include <memory>

@@ -106,7 +106,7 @@ class WindowsReplacement : public Replacement {
         const Handle file = Open_to_read(target_, 0);
         if (!file.Is_open()) {
             const DWORD error = GetLastError();
-            // A link that leads nowhere is not replaced: it could not be told where it leads.
+            // A link that leads nowhere is not replaced: where it leads cannot be found out.
             const bool is_free = error == ERROR_FILE_NOT_FOUND &&
                                  GetFileAttributesW(target_.c_str()) == INVALID_FILE_ATTRIBUTES;
             return is_free ? FileResult::Done() : Failed(error);

@@ -39,7 +39,7 @@ void Remove_if_left(const std::string& path) {
 
 }  // namespace
 
-// A file that another save's clean-up takes before it is held is made anew.
+// A file that another save's clean-up takes before it is held is made again.
 TemporaryFile::TemporaryFile(const std::string& folder) : file_(-1), lock_(-1) {
     do {
         name_ = folder + std::string(Prefix) + std::string(Places);

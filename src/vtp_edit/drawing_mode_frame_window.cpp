@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
+#include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 
 namespace tidemark {
@@ -28,9 +29,8 @@ class ModeCombo : public QComboBox {
 }  // namespace
 
 DrawingModeFrame::DrawingModeFrame(QWidget* parent)
-    : QGroupBox("Drawing Mode", parent), DrawModeCombo_(new ModeCombo) {
-    DrawModeCombo_->setObjectName("DrawModeCombo");
-    DrawModeCombo_->setAccessibleName("Drawing mode");
+    : QGroupBox("Drawing Mode", parent),
+      DrawModeCombo_(Captionless<ModeCombo>("DrawModeCombo", "Drawing mode")) {
     DrawModeCombo_->view()->setAccessibleName("Drawing modes");
     for (const DrawingMode& mode : DrawingModes) DrawModeCombo_->addItem(To_qt(mode.Item));
     DrawModeCombo_->setMaxVisibleItems(static_cast<int>(DrawingModes.size()));

@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -81,6 +82,12 @@ void EditPoint::Edit(int point) {
 void EditPoint::Option_Click() {
     cell_fields_->setEnabled(Option2_->isChecked());
     VTP_fields_->setEnabled(!Option2_->isChecked());
+}
+
+// Enter is OK, with Shift and Ctrl as well.
+void EditPoint::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return OKButton_Click();
+    QDialog::keyPressEvent(event);
 }
 
 void EditPoint::OKButton_Click() {

@@ -22,6 +22,9 @@ class EditPoint : public QDialog {
     // in any other way than with OK it changes nothing.
     void Edit(int point);
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void Lay_out();
     void Option_Click();

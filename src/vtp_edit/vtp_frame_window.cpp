@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "model/text_forms.h"
 #include "platform/qt_controls.h"
 #include "platform/qt_text.h"
 #include "vtp_edit/vtp_commands.h"
@@ -25,14 +26,6 @@ VTPFrame::VTPFrame(Document& document, Session& session, Messages& messages, QWi
       VTPwidthText_(
           Named_field("VTPwidthText", "Current segment width", To_qt(DefaultVTPWidthText))) {
     Lay_out();
-    connect(VTPlistbox_, &ListBox::Clicked, this, [this] {
-        session_.LastChosen = ListKind::Points;
-        Q_EMIT Graphics_outdated();
-    });
-    connect(VTPlistbox_, &ListBox::Double_clicked, this, [this] {
-        session_.LastChosen = ListKind::Points;
-        Q_EMIT Show_wanted();
-    });
     connect(NewSegment_, &QCheckBox::toggled, this,
             [this](bool checked) { session_.Panel.NewSegment = checked; });
 }
@@ -75,7 +68,10 @@ void VTPFrame::Start_new_segment() {
 }
 
 std::optional<Int16> VTPFrame::Typed_width() {
-    const WidthResult result = Take_width(From_qt(VTPwidthText_->text()), messages_);
+    // Before a warning stands over it.
+    const std::string text = Whole_number_text(From_qt(VTPwidthText_->text()));
+    VTPwidthText_->setText(To_qt(text));
+    const WidthResult result = Take_width(text, messages_);
     VTPwidthText_->setText(To_qt(result.Text));
     return result.Width;
 }

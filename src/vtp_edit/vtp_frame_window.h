@@ -31,8 +31,6 @@ class VTPFrame : public QGroupBox {
     void Refresh();
 
   Q_SIGNALS:
-    void Show_wanted();         // the map is to show what is selected
-    void Graphics_outdated();   // another point was selected, and the map has to be drawn again
     void EditButton_clicked();  // the Edit Point dialog is asked for
 
   private:

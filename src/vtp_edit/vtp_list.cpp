@@ -4,6 +4,7 @@
 #include "model/list_selection.h"
 #include "model/segments.h"
 #include "model/text_forms.h"
+#include "model/vtp_data.h"
 
 namespace tidemark {
 
@@ -38,7 +39,7 @@ void Refresh_VTP_List(Project& project, Session& session) {
     Repair_segments(project);
     PanelState& panel = session.Panel;
     panel.SelectedPoint = Selected_after_refresh(panel.SelectedPoint, project.VTPCount);
-    if (project.PrefsSet) panel.VTPsave = Has_VTP_data(project);
+    Refresh_VTPsave(project, panel);
 }
 
 }  // namespace tidemark

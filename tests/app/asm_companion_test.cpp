@@ -108,7 +108,7 @@ TEST_F(CompanionTest, NoFileIsWrittenTwice) {
 TEST_F(CompanionTest, ErrorsOfTheCoastAreToldAndKeepNoFileFromBeingWritten) {
     const std::string error =
         "coast.TDM: [ 3, 8 ] Error: the step from point 3 to point 4 skips cell [ 3, 8 ], which is "
-        "built without it; put a point there\n";
+        "built without it; Mend puts points on both sides of the edges that it crosses\n";
     Add_segment(river_, SandWithWaves, 80, {{5000, 5872}, {5000, 6400}, {5000, 6639}});
     Add_segment(river_, Stream, 80, {{5000, 6400}, {5000, 6400}, {5010, 6400}});
     files_.Content = {{"coast.TDM", Project_bytes(river_, "")}};

@@ -6,8 +6,10 @@
 #include <numbers>
 #include <regex>
 #include <set>
+#include <shapefil.h>
 
 #include "app/asm_companion.h"
+#include "app/coast_upkeep.h"
 #include "app/project_commands.h"
 #include "coast/position.h"
 #include "fakes/rules_test.h"
@@ -29,6 +31,32 @@ static std::string Island(double longitude, double latitude, double radius) {
                 std::to_string(latitude + distance * std::sin(angle)) + "]";
     }
     return text + "]]}";
+}
+
+// The polygon of a GeoJSON text as a file of each kind. A track says nothing of land: it is on the
+// left.
+static void Write_in_all_formats(const std::string& geojson) {
+    std::string kml, gpx;
+    std::vector<double> x, y;
+    const std::regex position(R"(\[(-?[0-9.]+),(-?[0-9.]+)\])");
+    for (std::sregex_iterator found(geojson.begin(), geojson.end(), position), end; found != end;
+         ++found) {
+        const std::string longitude = (*found)[1], latitude = (*found)[2];
+        kml.append(longitude).append(",").append(latitude).append(" ");
+        gpx.append("<trkpt lon='" + longitude + "' lat='" + latitude + "'/>");
+        x.push_back(std::stod(longitude));
+        y.push_back(std::stod(latitude));
+    }
+    Write_file("a.geojson", geojson);
+    Write_file("a.kml", "<kml><Polygon><outerBoundaryIs><LinearRing><coordinates>" + kml +
+                            "</coordinates></LinearRing></outerBoundaryIs></Polygon></kml>");
+    Write_file("a.gpx", "<gpx><trk><trkseg>" + gpx + "</trkseg></trk></gpx>");
+    SHPInfo* const file = SHPCreate("a.shp", SHPT_POLYGON);
+    SHPObject* const shape = SHPCreateSimpleObject(SHPT_POLYGON, static_cast<int>(x.size()),
+                                                   x.data(), y.data(), nullptr);
+    SHPWriteObject(file, -1, shape);
+    SHPDestroyObject(shape);
+    SHPClose(file);
 }
 
 class CoastCompanionTest : public testing::Test {
@@ -128,7 +156,14 @@ TEST_F(CoastCompanionTest, AnIslandInTwoCellsIsAProjectEachUntilItChanges) {
     EXPECT_EQ(heights[0].size(), 2U);
     EXPECT_EQ(heights[0], heights[1]);
 
-    EXPECT_EQ(Run(true), "coast-122-148.TDM: up to date\ncoast-123-148.TDM: up to date\n");
+    const std::string up_to_date = "coast-122-148.TDM: up to date\ncoast-123-148.TDM: up to date\n";
+    EXPECT_EQ(Run(true), up_to_date);
+    task_.Options.Laying.Tolerance = 30;
+    task_.Cells = {{123, 148}};
+    EXPECT_EQ(Run(true), made.substr(made.find('\n') + 1)) << "made with other options";
+    task_.Cells.clear();
+    EXPECT_EQ(Run(true), up_to_date.substr(30) + made.substr(0, 68));
+    EXPECT_EQ(Run(true), up_to_date);
     fs::last_write_time("isle.json", fs::last_write_time("out/coast-123-148.TDM"));
     fs::remove("out/coast-122-148.TDM");
     EXPECT_EQ(Run(true), made);
@@ -147,17 +182,32 @@ TEST_F(CoastCompanionTest, PolygonsBeyondTheLimitGoIntoFurtherProjectsOfTheCell)
     Expect_goes_on("coast-122-148-b.TDM", "coast-122-148-b-LWM.asm ");
     EXPECT_EQ(projects_[0].LWMCount, MaxLWMCount);
     EXPECT_EQ(projects_[1].VTPCount + projects_[1].KillCount, 0);
-    EXPECT_EQ(Files_in("out").size(), 5U);
+    EXPECT_EQ(Files_in("out").size(), 6U) << "two projects, their assembler files, the options";
     task_.Options.Importing.FillLand = false;
-    fs::remove("out/coast-122-148.TDM");
     EXPECT_THAT(Run(true), testing::HasSubstr("coast-122-148-b.TDM: removed\n"));
+}
+
+TEST_F(CoastCompanionTest, TheSameCoastIsTheSameProjectWhateverItsFile) {
+    Write_in_all_formats(Island(-122.34375, 37.792, 0.1));
+    std::map<std::string, std::string> first;
+    for (const char* const name : {"a.geojson", "a.kml", "a.gpx", "a.shp"}) {
+        task_.Coasts = {name};
+        fs::remove_all("out");
+        fs::create_directory("out");
+        Run(true);
+        const auto made = Files_in("out");
+        EXPECT_EQ(made.size(), 3U) << name;
+        if (first.empty()) first = made;
+        EXPECT_TRUE(made == first) << name;
+    }
 }
 
 // Round the date line, and in whatever order threads are done: the same as asking for each cell.
 TEST_F(CoastCompanionTest, AllCellsOfACoastAreFoundWhateverTheNumberOfThreads) {
     Give_coast("isle.json", Island(179.9, -20.1, 1));
     const std::string said = Run(true);
-    const auto made = Files_in("out");
+    auto made = Files_in("out");
+    made.erase(CoastOptionsName);
     EXPECT_GT(made.size(), 12U);
     task_.OutputFolder = "each";
     task_.Threads = 5;
@@ -165,7 +215,8 @@ TEST_F(CoastCompanionTest, AllCellsOfACoastAreFoundWhateverTheNumberOfThreads) {
     for (int row = 308; row < 320; ++row)
         for (int column = 763; column < 773; ++column) task_.Cells.push_back({column % 768, row});
     Run(true);
-    const auto each = Files_in("each");
+    auto each = Files_in("each");
+    each.erase(CoastOptionsName);
     EXPECT_EQ(each.size(), made.size());
     for (const auto& [name, bytes] : made) {
         ASSERT_TRUE(each.contains(name)) << name;
@@ -185,7 +236,7 @@ TEST_F(CoastCompanionTest, RefusalsSayWhyAndLeaveNothingHalf) {
     MemoryFiles full;
     full.WriteError = "No space left on device";
     files_ = &full;
-    EXPECT_EQ(Run(false), "out/coast-122-148.TDM: No space left on device\n");
+    EXPECT_EQ(Run(false), "out/tidemark-coast.options: No space left on device\n");
     task_.OutputFolder = "nowhere";
     EXPECT_EQ(Run(false), "nowhere: there is no such folder\n");
 }

@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QRegularExpression>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -223,19 +224,28 @@ TEST_F(ControlsTest, EachOfThemIsInTheTableAboveAndInTheInstructions) {
         const QRegularExpression marked(QString("<%1>([^<]* &gt; )?%2</").arg(mark, words));
         EXPECT_TRUE(page.contains(marked)) << "the page lacks " << text.toStdString();
     };
+    const char* const caption = "b class=\"ui\"";
+    const char* const caption_or_name = "(?:b class=\"ui\"|q class=\"says\")";
     const auto expect_captions = [&](const QWidget& window) {
         for (const QAbstractButton* const button : window.findChildren<QAbstractButton*>())
             if (!button->text().isEmpty() && !button->text().toInt())
-                expect_marked("b class=\"ui\"", button->text());
+                expect_marked(caption, button->text());
         for (const QGroupBox* const frame : window.findChildren<QGroupBox*>())
-            if (!frame->title().isEmpty()) expect_marked("b class=\"ui\"", frame->title());
+            if (!frame->title().isEmpty()) expect_marked(caption, frame->title());
+        for (const QLabel* const label : window.findChildren<QLabel*>())
+            if (label->text().endsWith(':')) expect_marked(caption_or_name, label->text());
+        for (const QWidget* const control : window.findChildren<QWidget*>())
+            if (control->focusPolicy() != Qt::NoFocus && !control->accessibleName().isEmpty())
+                expect_marked(caption_or_name, control->accessibleName());
+        for (const QShortcut* const shortcut : window.findChildren<QShortcut*>())
+            expect_marked("kbd", shortcut->key().toString(QKeySequence::PortableText));
     };
     Scene scene(folder_, Bay(folder_));
     const QWidget& window = scene.Window();
     for (const QAction* const entry : window.findChildren<QAction*>()) {
         if (entry->text().isEmpty() || entry->menu() || entry->objectName().isEmpty()) continue;
         const bool is_tool = scene.Of<QToolBar>("ToolBar").actions().contains(entry);
-        expect_marked(is_tool ? "b class=\"ui\"" : "b class=\"menu\"", entry->text());
+        expect_marked(is_tool ? caption : "b class=\"menu\"", entry->text());
         for (const QKeySequence& keys : entry->shortcuts())
             expect_marked("kbd", keys.toString(QKeySequence::PortableText));
         EXPECT_NE(table.find(entry->objectName().toStdString() + " =>"), table.npos)
@@ -248,14 +258,15 @@ TEST_F(ControlsTest, EachOfThemIsInTheTableAboveAndInTheInstructions) {
         EXPECT_NE(table.find(name.toStdString() + ' '), table.npos) << name.toStdString();
     }
     const QComboBox& modes = scene.Of<QComboBox>("DrawModeCombo");
-    for (int i = 0; i < modes.count(); ++i) expect_marked("b class=\"ui\"", modes.itemText(i));
+    for (int i = 0; i < modes.count(); ++i) expect_marked(caption, modes.itemText(i));
     expect_captions(window);
     escaping_.Before_closing = expect_captions;
-    for (const char* const step : {"VTPlistbox Down", "EditButton click", "BackgroundProperties",
-                                   "OutputPreferences", "CellCalc", "CoastCheck"})
+    for (const char* const step :
+         {"VTPlistbox Down", "EditButton click", "BackgroundProperties", "OutputPreferences",
+          "CellCalc", "CoastCheck", "GoTo", "FillCoast", "ImportCoast"})
         scene.Do(step);
     QApplication::processEvents();
-    EXPECT_EQ(escaping_.Shown.size(), 5);
+    EXPECT_EQ(escaping_.Shown.size(), 8);
 }
 
 TEST_F(ControlsTest, AnErrorOfAHandlerIsShownAndTheProgramGoesOn) {

@@ -7,6 +7,7 @@
 
 #include "app/tidemark_main_window.h"
 #include "canvas/test_images.h"
+#include "coast/check.h"
 #include "fakes/window_test.h"
 
 namespace tidemark {
@@ -21,6 +22,9 @@ class ImportTest : public testing::Test {
     ImportTest() {
         Write_file(folder_ / "map.bmp", BMP_bytes(768, 768).toStdString());
         Write_file(folder_ / "coast.geojson", Coast);
+        Write_file(folder_ / "walk.kml",
+                   "<kml><Track/><LineString><coordinates>0.03,-0.07 0.1,-0.07</coordinates>"
+                   "</LineString></kml>");
         Write_file(folder_ / "broken.json", "{\"type\": \"LineString\"");
         Project p;
         Place_area(p, 3, 5, 5, 7);
@@ -127,6 +131,24 @@ TEST_F(ImportTest, AFileThatIsRefusedIsNamedInTheDialog) {
         .Then_choose(Path("broken.json"));
     window_.findChild<QAction*>("ImportCoast")->trigger();
     EXPECT_TRUE(plan_.Messages().empty());
+}
+
+// Of errors only those that the import would add: the project has loose ends already.
+TEST_F(ImportTest, TheListHasRemarksOnTheFileAndOnlyErrorsOfTheImport) {
+    Open();
+    Project with_error = window_.Current_project();
+    Add_segment(with_error, 1, 40, {{5000, 5500}, {5300, 5500}});
+    Write_file(with_error.ProjectFile, Project_bytes(with_error, "then"));
+    Open();
+    EXPECT_GT(Count_errors(Check_coast(window_.Current_project())), 0);
+    plan_.Then([&](QWidget& dialog) {
+        EXPECT_TRUE(Is_ready(dialog)) << Counted(dialog);
+        const auto& list = Control<QListWidget>(dialog, "ImportRemarkList");
+        EXPECT_EQ(list.count(), 1);
+        EXPECT_TRUE(list.item(0)->text().startsWith("walk.kml: Remark: its gx:Track in line 1 is"));
+        dialog.close();
+    });
+    Drop("walk.kml");
 }
 
 // Reading that goes on until it is cancelled.

@@ -1,6 +1,7 @@
 // A user who answers every dialog and message box at random, at once.
 #pragma once
 
+#include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -39,12 +40,19 @@ inline const std::vector<Answers> AllAnswers{
      "",
      {"37:49:12.5,122:28:42", "8:60:60,0:7:0", "91:00:00,0:0:0", "5:7,::"}},
     {"GoTo", "GoToColumn,GoToRow", "", {"3,5", "4,6", "5,7", "x,", "31,0"}},
+    {"FillCoast", "", "FillWater,FillLand,FillInside,FillInView", {""}},
+    {"ImportCoast",
+     "ImportWidthText,ToleranceText",
+     "CoastFileButton,ReverseCheck,ClearCellsCheck,FillWaterCheck,FillLandCheck",
+     {"80,4", "40,0.5", "0,60", "x,4", "80,0"}},
+    {"OpenCoast", "fileNameEdit", "", {"coast.json", "coast.json", "broken.bmp"}},
     {"LoadBMPdialog", "fileNameEdit", "", {"map.bmp", "map2.bmp", "broken.bmp"}},
     {"OpenProject", "fileNameEdit", "", {"a.TDM", "b.TDM", "none"}},
     {"SaveProject", "fileNameEdit", "", {"a.TDM", "b.TDM", "c"}},
 };
 
-// While it lives, each dialog of the program is answered in the first turn of its own event loop.
+// While it lives, each modal dialog of the program is answered in the first turn of its own event
+// loop.
 class RandomAnswers : public QObject {
   public:
     explicit RandomAnswers(RandomNumbers& random) : random_(random) {
@@ -58,7 +66,7 @@ class RandomAnswers : public QObject {
         const auto answer = [this, dialog] {
             if (dialog) Answer(*dialog);
         };
-        if (dialog && event->type() == QEvent::Show)
+        if (dialog && dialog->isModal() && event->type() == QEvent::Show)
             QMetaObject::invokeMethod(this, answer, Qt::QueuedConnection);
         return false;
     }
@@ -75,7 +83,9 @@ class RandomAnswers : public QObject {
             *std::ranges::find(AllAnswers, dialog.objectName(), &Answers::Dialog);
         for (const QString& button : buttons.split(',', Qt::SkipEmptyParts))
             if (random_.One_in(3)) Click(Control<QAbstractButton>(dialog, button));
-        const QStringList texts = random_.One_of(rows).split(',');
+        if (auto* const modes = dialog.findChild<QComboBox*>("ImportModeCombo"))
+            for (int lines = random_.Number(0, 9); lines > 0; --lines) Press(*modes, Qt::Key_Down);
+        const QStringList texts = random_.One_of(rows).split(',', Qt::SkipEmptyParts);
         for (qsizetype i = 0; i < texts.size(); ++i) {
             auto& field = Control<QLineEdit>(dialog, fields.split(',')[i]);
             field.setText(texts[i]);

@@ -11,10 +11,12 @@
 #include "app/random_answers.h"
 #include "app/tidemark_main_window.h"
 #include "canvas/test_images.h"
+#include "coast/check.h"
 #include "fakes/window_test.h"
+#include "georef/geo_position.h"
 #include "lwm/kill_list.h"
 #include "lwm/lwm_list.h"
-#include "model/list_selection.h"
+#include "model/vtp_data.h"
 #include "platform/qt_list_box.h"
 #include "vtp_edit/vtp_list.h"
 
@@ -49,6 +51,26 @@ static std::string Fault_in(const Project& p) {
     return has_points && (!p.VTPSegStart(1) || p.VTPSegStart(p.VTPCount + 1)) ? "a start" : "";
 }
 
+// Shores from the west to the east edge of the LOD8 cells that the answers give a map.
+static std::string Coast_bytes(RandomNumbers& random) {
+    std::string lines;
+    for (const auto& [column, row] : {std::pair{0, 0}, {122, 148}, {767, 511}})
+        for (int y : {200, 1500, 7700}) {
+            Project p;
+            p.BGLOD8X = column;
+            p.BGLOD8Y = row;
+            std::string places;
+            for (int x = 0; x < 8191; x += random.Number(20, 300)) {
+                y = std::clamp(y + random.Number(-90, 90), 0, 8191);
+                const auto [north, east] = Position_of(p, {FirstVTP + x, FirstVTP + y});
+                places += (places.empty() ? "[" : ",[") + std::to_string(east) + "," +
+                          std::to_string(north) + "]";
+            }
+            lines += (lines.empty() ? "[" : ",[") + places + "]";
+        }
+    return R"({"type":"MultiLineString","coordinates":[)" + lines + "]}";
+}
+
 class RandomUser {
   public:
     // Opens the project, with a map that is loaded and georeferenced. At about `most` entries a
@@ -57,6 +79,7 @@ class RandomUser {
         for (const char* map : {"map.bmp", "map2.bmp"})
             Write_file(folder_ / map, BMP_bytes(768, 768).toStdString());
         Write_file(folder_ / "broken.bmp", "BM");
+        Write_file(folder_ / "coast.json", Coast_bytes(random_));
         Place_area(project, 3, 5, 5, 7);
         project.BackgroundFile = folder_ / "map.bmp";
         project.BackgroundLoaded = true;
@@ -214,6 +237,19 @@ class RandomUser {
         if (random_.One_in(5)) QTest::keyClick(&canvas_, Qt::Key_Escape);
     }
 
+    void Mend() {
+        Choose("CoastCheck");
+        QApplication::processEvents();  // it is checked in a turn of its own
+        Press(Control<ListBox>(window_, "FindingList"), random_.One_of(keys_));
+        const bool all = random_.One_in(3);
+        Click(Control<QPushButton>(window_, all ? "MendAllButton" : "MendButton"));
+        const Findings left = Check_coast(Now());
+        EXPECT_EQ(Entry("CoastCheck").iconText(), QString::number(left.size()));
+        const bool is_refused = !Control<QLabel>(window_, "MendResult").text().isEmpty();
+        EXPECT_TRUE(!all || is_refused || !Has_remedy(left)) << Finding_line(left.front());
+        if (random_.One_in(3)) Press(Control<QDialog>(window_, "CoastCheck"), Qt::Key_Escape);
+    }
+
     void Resize(QWidget& widget) {
         const QSize before = widget.size();
         widget.resize(widget.width() + random_.Number(-60, 60),
@@ -295,6 +331,10 @@ class RandomUser {
         {"look elsewhere", 40, [this] { Look_elsewhere(); }, false},
         {"pan", 10, [this] { Pan(); }, false},
         {"draw by keys", 60, [this] { Draw_by_keys(); }, false},
+        {"Mend", 20, [this] { Mend(); }, false},
+        {"Fill", 20, [this] { Choose("FillCoast"); }, false},
+        {"Clear along the coast", 5, [this] { Choose("ClearCoast"); }, false},
+        {"Import", 12, [this] { Choose("ImportCoast"); }, false},
         {"Go to", 4, [this] { Choose("GoTo"); }, false},
         {"menu entry", 12, [this] { Choose(Some(entries_)); }, false},
         {"Save", 5, [this] { Save(); }, false},
@@ -324,7 +364,7 @@ class RandomUser {
 
 TEST(RandomUserTest, WhateverIsDoneTheProjectHoldsTogether) {
     RandomUser user(1, 150, Project());
-    user.Play(6000);
+    user.Play(4000);
     user.Travel_through_everything();
     user.Save_and_open_again();
     EXPECT_TRUE(user.Has_been_told("2 VTP coastline segments"));  // coastlines did cut cells

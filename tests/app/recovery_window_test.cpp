@@ -107,7 +107,7 @@ TEST_F(RecoveryWindowTest, ALogoutThatIsCancelledAsksAgain) {
     auto& list = Control<ListBox>(window_, "VTPlistbox");
     Press(list, Qt::Key_Down);
     Click(Control<QPushButton>(window_, "ReverseButton"));
-    QMetaObject::invokeMethod(&window_, "Session_ends");
+    window_.findChild<Safekeeping*>()->Session_ends();
     EXPECT_TRUE(DiskFiles().Exists(folder_ / "state/1.recovery")) << "written at once";
     Press(list, Qt::Key_Delete);  // the user goes on
     plan_.Then_answer(QMessageBox::No);

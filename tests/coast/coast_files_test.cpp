@@ -92,6 +92,7 @@ std::string Text_of_reading(const std::string& path, const std::vector<GeoBox>& 
     std::string text;
     for (const auto& lines : reading.Lines)
         for (const CoastLine& line : lines) text += (text.empty() ? "" : "; ") + Text_of(line);
+    for (const std::string& remark : reading.Remarks) text += "; " + Remark_text(path, remark);
     return text;
 }
 

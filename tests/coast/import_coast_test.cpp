@@ -1,6 +1,9 @@
 // Coasts from files are laid into the map so that the check finds nothing, and filled both ways.
 #include "coast/import_coast.h"
 
+#include <cmath>
+#include <numbers>
+
 #include "coast/cell_mask.h"
 #include "coast/check.h"
 #include "coast/coast_file.h"
@@ -19,6 +22,11 @@ static void Roughen(std::vector<MapPoint>& line, MapPoint to, RandomNumbers& ran
     const double aside = random.Number(-6, 6) / 100.0;
     Roughen(line, {from.X + dx / 2 - dy * aside, from.Y + dy / 2 + dx * aside}, random);
     Roughen(line, to, random);
+}
+
+static CoastPosition On_earth(const GeoBox& box, double x, double y) {
+    return {box.West + (x - FirstVTP + 0.5) / 8192 * (box.East - box.West),
+            box.North - (y - FirstVTP + 0.5) / 8192 * (box.North - box.South)};
 }
 
 // Land and water by turns from north to south, and islands of the other kind.
@@ -43,12 +51,64 @@ static std::vector<CoastLine> Rough_coast(const Project& map, unsigned seed) {
         }
         last = drawn;
         if (line.Ring) rough.pop_back();
-        for (const auto [x, y] : rough)
-            line.Positions.push_back(
-                {box.West + (x - FirstVTP + 0.5) / 8192 * (box.East - box.West),
-                 box.North - (y - FirstVTP + 0.5) / 8192 * (box.North - box.South)});
+        for (const auto [x, y] : rough) line.Positions.push_back(On_earth(box, x, y));
     }
     return lines;
+}
+
+// Whatever its points, it touches itself, and it crosses cells and the edge of the map far more
+// often than can be built.
+static std::vector<CoastLine> Jagged_coast(const Project& map, unsigned seed) {
+    RandomNumbers random(seed);
+    const GeoBox box = Map_box(map);
+    CoastLine shore{{}, false, true, "shore"}, island{{}, true, true, "island"};
+    const int middle = random.One_of(std::vector{FirstVTP + 100, FirstVTP + 1500});
+    for (int x = FirstVTP + 8200; x > FirstVTP - 10; x -= 5)
+        shore.Positions.push_back(On_earth(box, x, middle + random.Number(-400, 400)));
+    for (int i = 0; i < 1500; ++i) {
+        const double angle = 2 * std::numbers::pi * i / 1500;
+        const int radius = 1500 + random.Number(-200, 200);
+        island.Positions.push_back(On_earth(box, FirstVTP + 4000 + radius * std::cos(angle),
+                                            FirstVTP + 5000 - radius * std::sin(angle)));
+    }
+    return {shore, island};
+}
+
+static double Distance_to(const std::vector<MapPoint>& line, MapPoint place) {
+    double least = 1e9;
+    for (std::size_t i = 1; i < line.size(); ++i)
+        least = std::min(least, Square_to_segment(place, line[i - 1], line[i]));
+    return std::sqrt(least);
+}
+
+// Of every laid point from the lines of the file, and of every point of those on the map from what
+// was laid: VTP units.
+static double Farthest(const Project& map, const std::vector<CoastLine>& lines,
+                       const LaidCoast& coast) {
+    const GeoBox box = Map_box(map);
+    std::vector<std::vector<MapPoint>> source, laid;
+    for (const CoastLine& line : lines) {
+        auto& points = source.emplace_back();
+        for (const auto& [longitude, latitude] : line.Positions)
+            points.push_back(
+                {FirstVTP - 0.5 + (longitude - box.West) / (box.East - box.West) * 8192,
+                 FirstVTP - 0.5 + (box.North - latitude) / (box.North - box.South) * 8192});
+        if (line.Ring) points.push_back(MapPoint(points.front()));
+    }
+    for (const LaidLine& line : coast.Lines) {
+        auto& points = laid.emplace_back();
+        for (const auto& [x, y] : line.Points) points.push_back({double(x), double(y)});
+    }
+    double farthest = 0;
+    for (const auto& [from, to] : {std::pair(&laid, &source), {&source, &laid}})
+        for (const auto& points : *from)
+            for (const MapPoint place : points) {
+                if (!MapRectangle{FirstVTP, FirstVTP, LastVTP, LastVTP}.Contains(place)) continue;
+                double least = 1e9;
+                for (const auto& line : *to) least = std::min(least, Distance_to(line, place));
+                farthest = std::max(farthest, least);
+            }
+    return farthest;
 }
 
 // Nothing but remarks, and every coast cell built to its last square.
@@ -80,9 +140,21 @@ TEST(ImportCoastTest, RoughCoastsAreLaidWithoutAnErrorAndFilledBothWays) {
     for (unsigned seed = 1; seed <= 10; ++seed) {
         SCOPED_TRACE(seed);
         const auto project = Whole_cell();
-        const LaidCoast coast = Lay_coast(*project, Rough_coast(*project, seed), {});
+        const std::vector<CoastLine> lines = Rough_coast(*project, seed);
+        const LaidCoast coast = Lay_coast(*project, lines, {});
         EXPECT_LE(coast.Deviation, coast.Tolerance + 4) << "what cell edges ask for";
+        if (seed <= 2) {
+            EXPECT_LE(Farthest(*project, lines, coast), coast.Deviation + 1) << "to whole units";
+        }
         Expect_built(*project, coast);
+    }
+}
+
+TEST(ImportCoastTest, JaggedCoastsAreClosedWhereTheyAreTooNarrowToBeBuilt) {
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        SCOPED_TRACE(seed);
+        const auto project = Whole_cell();
+        Expect_built(*project, Lay_coast(*project, Jagged_coast(*project, seed), {}));
     }
 }
 

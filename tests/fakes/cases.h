@@ -1,7 +1,7 @@
-// Cases that stand in a text file, one a line: "what is given; more of it => what comes of it".
+// Cases from a text file, one a line: "input; more input => expected result".
 //
-// Blanks around a text that is given do not count unless it stands in quotes. "#" begins a remark.
-// Line ends in what comes of it are written as " / ".
+// Blanks around an input do not count unless it stands in quotes. "#" begins a comment. Line ends
+// in the result are written as " / ". After a line "@key text" the key stands for the text.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -25,14 +25,19 @@ inline Given Given_in(const std::string& text) {
     return given;
 }
 
-// Expects of every case in tests/<file> that `answer` makes what comes of it of what is given.
+// Expects for every case in tests/<file> that `answer` turns its inputs into its result.
 template <class Answer>
 void Expect_cases(const std::string& file, const Answer& answer) {
     std::istringstream lines(Source_file("tests/" + file));
+    std::vector<std::pair<std::string, std::string>> keys;  // each with its whole line
     int cases = 0;
     for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with('@')) keys.emplace_back(line.substr(0, line.find(' ')), line);
         const auto arrow = line.find(" =>");
         if (line.starts_with('#') || arrow == line.npos) continue;
+        for (const auto& [key, meaning] : keys)
+            for (auto at = line.find(key); at != line.npos; at = line.find(key))
+                line.replace(at, key.size(), meaning, key.size() + 1);
         ++cases;
         const std::string text = line.substr(0, arrow);
         std::string made;

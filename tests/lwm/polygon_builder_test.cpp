@@ -2,7 +2,8 @@
 #include "lwm/polygon_builder.h"
 
 #include "fakes/rules_test.h"
-#include "lwm/cell_edges.h"
+#include "lwm/cell_points.h"
+#include "model/text_forms.h"
 
 namespace tidemark {
 
@@ -29,11 +30,9 @@ static std::string Built(Project& project, CellPoint click = {128, 128}) {
 TEST(PolygonBuilderTest, AStepCrossesTheBoundaryWhereItsLineDoes) {
     Expect_cases("lwm/data/crossings.txt", [](const Given& given) {
         const auto project = Cell_project(given[0]);
-        RecordingMessages messages;
-        CellEdges edges(*project, Cell_session(), messages);
-        edges.Point_in_cell(1);
-        edges.Add_Edge_Crossing(2, false);
-        return Points_text({{edges.EdgePoint(1)}});
+        CellPoints points(*project, Cell_session());
+        points.Point_in_cell(1);
+        return Points_text({{points.Crossing(2)}});
     });
 }
 
@@ -70,10 +69,10 @@ TEST(PolygonBuilderTest, TheRecordHoldsCellTypeAndHeight) {
         Session session = Cell_session();
         session.DrawMode = LandPolygon;
         RecordingMessages messages;
-        const auto [text, is_added, remark, is_by_coast] =
-            Add_LWM_Poly(*project, session, messages, choice, typed);
-        EXPECT_FALSE(is_by_coast);
-        if (!is_added) return text + " " + messages.Said();
+        const std::string text = Whole_number_text(typed);  // as the height box shows it
+        const LWMPolyResult result = Add_LWM_Poly(*project, session, messages, choice, typed);
+        EXPECT_FALSE(result.IsRefusedByCoast);
+        if (!result.Added) return text + " " + messages.Said();
         EXPECT_EQ(project->LWMType(1), LandPolygon);
         EXPECT_EQ(project->LWMCell(1, 0), PictureColumn);
         EXPECT_EQ(project->LWMCell(1, 1), PictureRow);

@@ -33,6 +33,7 @@ TEST(NumbersTest, RoundingsAndTextForms) {
         {"Round_half_even_to 2",
          [](auto& x) { return Shown(Round_half_even_to(std::stod(x), 2)); }},
         {"Int_text", [](auto& x) { return Int_text(std::stoi(x)); }},
+        {"Counted", [](auto& x) { return Counted(std::stoi(x), "cell"); }},
         {"Blank_text", [](auto& x) { return Blank_text(Int16(std::stoi(x))); }},
         {"Blank_text 32 bits", [](auto& x) { return Blank_text(std::stof(x)); }},
         {"Blank_text 64 bits", [](auto& x) { return Blank_text(std::stod(x)); }},

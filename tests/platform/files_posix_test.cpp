@@ -51,6 +51,19 @@ class PosixFilesTest : public testing::Test {
             std::tuple(status.st_mode, status.st_uid, status.st_gid, status.st_nlink, names, list));
     }
 
+    // The system lets no file grow beyond a thousand bytes meanwhile. The old bytes are "old".
+    void Expect_too_long_a_replacement_to_fail() {
+        struct rlimit before {};
+        ::getrlimit(RLIMIT_FSIZE, &before);
+        const struct rlimit small { 1000, before.rlim_max };
+        ::setrlimit(RLIMIT_FSIZE, &small);
+        const FileResult result = files_.Replace(path_, std::string(100000, 'x'));
+        ::setrlimit(RLIMIT_FSIZE, &before);
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.Reason(), "File too large");
+        EXPECT_EQ(File_content(path_), "old");
+    }
+
     TemporaryFolder folder_;
     std::string path_ = folder_ / "project.TDM";
     DiskFiles files_;
@@ -81,15 +94,7 @@ TEST_F(PosixFilesTest, ReplacingKeepsPermissionsAndLinksAndLeavesNothingBehind) 
 
 TEST_F(PosixFilesTest, AFailedReplacementLeavesTheOldFileAndSaysWhy) {
     ASSERT_TRUE(files_.Replace(path_, "old"));
-    struct rlimit before {};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const struct rlimit small { 1000, before.rlim_max };
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const FileResult result = files_.Replace(path_, std::string(100000, 'x'));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.Reason(), "File too large");
-    EXPECT_EQ(File_content(path_), "old");
+    Expect_too_long_a_replacement_to_fail();
     EXPECT_EQ(folder_.Number_of_files(), 1);
 }
 
@@ -136,15 +141,7 @@ TEST_F(PosixFilesTest, ReplacingKeepsOwnerGroupPermissionsListsAttributesAndName
 TEST_F(PosixFilesTest, AFailureInPlacePutsTheOldBytesBack) {
     Write_file(path_, "old");
     std::filesystem::create_hard_link(path_, folder_ / "second");
-    struct rlimit before {};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    const struct rlimit small { 1000, before.rlim_max };
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const FileResult result = files_.Replace(path_, std::string(100000, 'x'));
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.Reason(), "File too large");
-    EXPECT_EQ(File_content(path_), "old");
+    Expect_too_long_a_replacement_to_fail();
     EXPECT_EQ(folder_.Number_of_files(), 2);
 }
 
