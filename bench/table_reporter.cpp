@@ -34,7 +34,8 @@ void TableReporter::ReportRuns(const std::vector<Run>& runs) {
         if (run.error_occurred) {
             std::fprintf(stderr, "%s: %s\n", run.benchmark_name().c_str(),
                          run.error_message.c_str());
-        } else if (run.aggregate_name == "median") {
+            has_failed_ = true;
+        } else if (run.aggregate_name == "median" || run.repetitions == 1) {
             const std::string& name = run.run_name.function_name;
             const auto bar = name.find('|');
             const double unit = benchmark::GetTimeUnitMultiplier(run.time_unit);
@@ -74,7 +75,7 @@ int Run_benchmarks(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
     TableReporter table;
     benchmark::RunSpecifiedBenchmarks(&table);
-    return 0;
+    return table.Has_failed() ? 1 : 0;
 }
 
 }  // namespace tidemark

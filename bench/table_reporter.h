@@ -20,6 +20,9 @@ class TableReporter : public benchmark::BenchmarkReporter {
     void ReportRuns(const std::vector<Run>& runs) override;
     void Finalize() override;
 
+    // Whether a benchmark could not do what it measures.
+    bool Has_failed() const { return has_failed_; }
+
   private:
     struct Figure {
         std::string What, Whose;
@@ -27,9 +30,11 @@ class TableReporter : public benchmark::BenchmarkReporter {
     };
 
     std::map<std::int64_t, Figure> figures_;  // in the order of registration
+    bool has_failed_ = false;
 };
 
 // Runs all benchmarks of the program, several times each, and prints the rows with their medians.
+// Returns the program's exit status: 1 when one has failed.
 int Run_benchmarks(int argc, char** argv);
 
 }  // namespace tidemark
