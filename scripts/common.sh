@@ -8,16 +8,19 @@ fail() {
     exit 1
 }
 
+project_version() { sed -n 's/^project(tidemark VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt; }
+
 build_packages="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev
     rapidjson-dev libshp-dev libexpat1-dev"
 walk_packages="xvfb xauth openbox fonts-dejavu-extra"
 bench_packages="libbenchmark-dev libgeos-dev gdal-bin"
-windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils wine wine64 zip"
+windows_packages="g++-mingw-w64-x86-64-posix dpkg-dev googletest icoutils msitools wine wine64 wixl zip"
 package_packages="appstream desktop-file-utils dpkg-dev git groff libxml2-utils lintian x11-utils xauth xvfb"
 fuzz_packages="clang libclang-rt-14-dev"
 
-# Where the Qt that the Windows edition is linked with is kept.
+# Where the Qt and the libraries that the Windows edition is linked with are kept.
 windows_qt=$(realpath -m "${TIDEMARK_WINDOWS_QT:-$HOME/.cache/tidemark/windows-qt}")
+windows_libraries=$(realpath -m "${TIDEMARK_WINDOWS_LIBRARIES:-$HOME/.cache/tidemark/windows-libraries}")
 
 # Installs those of the Debian packages given that are not there yet.
 install_packages() {
@@ -46,8 +49,36 @@ install_for_preset() {
     case $1 in
         release) install_packages $bench_packages ;;
         fuzz) install_packages $fuzz_packages ;;
-        mingw) install_packages $windows_packages ;;
+        mingw)
+            install_packages $windows_packages
+            use_windows_libraries
+            ;;
     esac
+}
+
+# Has the libraries of the readers of coast files for Windows, and tells CMake where.
+use_windows_libraries() {
+    scripts/windows-libraries
+    export TIDEMARK_WINDOWS_LIBRARIES=$windows_libraries
+}
+
+# Unpacks the sources of the Debian package $1, with Debian's corrections, into a folder of that name
+# in the current one, unless it is there. They come through a list of our own: the machine's stays as
+# it is.
+unpack_source() {
+    [ ! -d "$1" ] || return 0
+    say "Fetching the sources of $1"
+    local release options
+    release=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
+    echo "deb-src http://deb.debian.org/debian $release main" >sources.list
+    mkdir -p lists/partial
+    options=(-o "Dir::Etc::SourceList=$PWD/sources.list" -o Dir::Etc::SourceParts=-
+        -o "Dir::State::Lists=$PWD/lists")
+    apt-get "${options[@]}" update -qq && apt-get "${options[@]}" source --download-only "$1" ||
+        fail "the sources of $1 could not be fetched; is there a network?"
+    rm -rf unpacked
+    dpkg-source --no-check -x "$1"_*.dsc unpacked
+    mv unpacked "$1"
 }
 
 # Configures and builds a preset: build_preset NAME [target...]

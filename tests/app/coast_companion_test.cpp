@@ -220,7 +220,7 @@ TEST_F(CoastCompanionTest, AllCellsOfACoastAreFoundWhateverTheNumberOfThreads) {
     EXPECT_EQ(each.size(), made.size());
     for (const auto& [name, bytes] : made) {
         ASSERT_TRUE(each.contains(name)) << name;
-        EXPECT_EQ(std::regex_replace(each.at(name), std::regex("/each/"), "/out/"), bytes);
+        EXPECT_EQ(std::regex_replace(each.at(name), std::regex("([/\\\\])each/"), "$1out/"), bytes);
         EXPECT_THAT(said, testing::HasSubstr(name + ": "));
     }
 }

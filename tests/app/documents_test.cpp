@@ -200,7 +200,7 @@ TEST(PackagingTest, EveryFileNamesTheProgramsVersion) {
     const std::string version = TIDEMARK_VERSION;
     for (const auto& [file, text] :
          {std::pair{"README.md", "/tidemark_" + version + "_amd64.deb"},
-          {"README.md", "/tidemark-" + version + "-windows.zip"},
+          {"README.md", "/tidemark-" + version + "-windows.msi"},
           {"packaging/debian/changelog", "tidemark (" + version + ")"},
           {"packaging/debian/tidemark.1", "\"Tidemark " + version + "\""},
           {"packaging/debian/tidemark-asm.1", "\"Tidemark " + version + "\""},
