@@ -112,10 +112,11 @@ TEST_F(CompanionTest, ErrorsOfTheCoastAreToldAndKeepNoFileFromBeingWritten) {
     Add_segment(river_, SandWithWaves, 80, {{5000, 5872}, {5000, 6400}, {5000, 6639}});
     Add_segment(river_, Stream, 80, {{5000, 6400}, {5000, 6400}, {5010, 6400}});
     files_.Content = {{"coast.TDM", Project_bytes(river_, "")}};
-    EXPECT_EQ(Run({"", {"coast.TDM", "gone.TDM"}, true}, false),
-              error +
-                  "coast.TDM: [ 3, 9 ] Remark: points 6 and 7 are at the same place; delete one "
-                  "of them\ngone.TDM: No such file or directory\n");
+    EXPECT_EQ(
+        Run({"", {"coast.TDM", "gone.TDM"}, true}, false),
+        error +
+            "coast.TDM: [ 3, 9 ] Remark: points 6 and 7 are at the same place; Mend deletes one "
+            "of them\ngone.TDM: No such file or directory\n");
     EXPECT_EQ(files_.Content.size(), 1U);
     EXPECT_EQ(Run({"", {"coast.TDM"}}, true), "coast-VTP.asm\ncoast-LWM.asm\n" + error);
     river_.VTPCount = 2;
