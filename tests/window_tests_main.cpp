@@ -12,7 +12,9 @@ extern "C" const char* __asan_default_options() {  // NOLINT: the sanitizer's ow
 #endif
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // With a screen of the caller's own, if there is one.
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     tidemark::TidemarkApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

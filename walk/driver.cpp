@@ -88,10 +88,15 @@ void Tell_of_move(QWidget& control, QPoint place) {
 void Move_to(QWidget& control, QPoint place) {
     if (Has_real_pointer()) {
         const Arrival arrival(control, place);
-        // A move to where the pointer is already would not be reported.
-        for (const QPoint off : {QPoint(3, 3), QPoint(0, 0)})
-            QCursor::setPos(control.mapToGlobal(place + off));
-        if (!QTest::qWaitFor([&] { return arrival.Is_there(); }))
+        // Again, as the window manager may have moved the window meanwhile.
+        constexpr int tries = 20, a_while = 500;  // milliseconds
+        for (int i = 0; i < tries && !arrival.Is_there(); ++i) {
+            // A move to where the pointer is already would not be reported.
+            for (const QPoint off : {QPoint(3, 3), QPoint(0, 0)})
+                QCursor::setPos(control.mapToGlobal(place + off));
+            static_cast<void>(QTest::qWaitFor([&] { return arrival.Is_there(); }, a_while));
+        }
+        if (!arrival.Is_there())
             throw std::runtime_error("the mouse did not come to " +
                                      control.objectName().toStdString());
     }

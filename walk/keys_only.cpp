@@ -46,23 +46,29 @@ class KeysOnly {
     void Save();
     void Take_back(const Project& before);
     void Key(Qt::Key key, Qt::KeyboardModifiers held = {}) {
-        QWidget* const active = QApplication::activeWindow();
-        QTest::keyClick((active ? active : &window_)->windowHandle(), key, held);
+        Come_to(*at_);
+        QTest::keyClick(at_->windowHandle(), key, held);
     }
 
-    // A window manager may have turned to the other window.
-    void Come_to_front() {
-        window_.activateWindow();
-        Check(QTest::qWaitForWindowActive(&window_), "the window did not become active");
+    // A window manager may have turned to the other window, and takes its time.
+    void Come_to(QWidget& window) {
+        if (QApplication::activeWindow() != &window) window.activateWindow();
+        Wait_for(window);
     }
 
   private:
     void Go_to_window(QWidget& window);
+    // To QTest the main window is active when the panel is, which belongs to it.
+    static void Wait_for(const QWidget& window) {
+        Check(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }),
+              window.objectName() + " did not become active");
+    }
     void Choose_mode(const QString& mode);
     void Step_to(int x, int y);
     void Edit_point(int in_cell);
 
     TidemarkMain& window_;
+    QWidget* at_ = &window_;  // what has the keyboard
     Status& panel_ = Control<Status>(window_, "Status");
     MapView& map_ = Control<MapView>(window_, "MapView");
     MapCanvas& canvas_ = Control<MapCanvas>(window_, "Picture2");
@@ -71,7 +77,8 @@ class KeysOnly {
 
 void KeysOnly::Go_to_window(QWidget& window) {
     Key(Qt::Key_F6);
-    Check(QTest::qWaitForWindowActive(&window), "F6 did not lead to the other window");
+    Wait_for(window);
+    at_ = &window;
 }
 
 void KeysOnly::Choose_mode(const QString& mode) {
@@ -110,7 +117,7 @@ void KeysOnly::Edit_point(int in_cell) {
     });
     Press(canvas_, Qt::Key_E);
     plan.Finish();
-    Come_to_front();
+    Come_to(window_);
 }
 
 QPoint KeysOnly::Do_by_keys(const Act& act) {
@@ -140,7 +147,7 @@ void KeysOnly::Save() {
     Key(Qt::Key_S, Qt::ControlModifier);
     plan.Finish();
     Check(!session_.DataChanged, "the drawing was not saved");
-    Come_to_front();
+    Come_to(window_);
 }
 
 void KeysOnly::Take_back(const Project& before) {
@@ -155,7 +162,7 @@ void Draw_with_keys_only(TidemarkMain& window, const std::function<void()>& is_d
     KeysOnly user(window);
     const Project& now = window.Current_project();
     const auto before = std::make_unique<Project>(now);
-    user.Come_to_front();
+    user.Come_to(window);
     Park_mouse();
     for (int i = 0; i < 4; ++i) user.Key(Qt::Key_Plus, Qt::ControlModifier);
     user.Key(Qt::Key_F7);

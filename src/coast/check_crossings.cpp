@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "coast/cell_path.h"
 #include "coast/check_parts.h"
 
 namespace tidemark {
@@ -86,11 +87,12 @@ class EdgeCheck {
     void Look_at_lonely(const Seen& seen, LOD13Cell cell, LOD13Cell other) {
         const int point = seen.Point.Origin;
         if (seen.IsMatched || Is_explained(point) || Is_end_on_edge(point)) return;
+        const bool can_be_cut = Can_be_cut(point);
         Report(cell, point,
                "the coastline crosses the edge to " + Text_of(other) + " before " +
                    Point_text(point) + ", which does not see it; " +
-                   (Is_step(point) ? "Mend puts" : "put") + " a point on each side of the edge",
-               Is_step(point) ? Remedy::CutStep : Remedy::None);
+                   (can_be_cut ? "Mend puts" : "put") + " a point on each side of the edge",
+               can_be_cut ? Remedy::CutStep : Remedy::None);
     }
 
     // Whether another finding says it already: the step skips a cell, or one of its ends lies on an
@@ -113,6 +115,12 @@ class EdgeCheck {
         };
         return is_end(point) || (Is_step(point) && is_end(point - 1)) ||
                (Is_step(point + 1) && is_end(point + 1));
+    }
+
+    // It may have those points already, and the other cell too many to see it.
+    bool Can_be_cut(int point) const {
+        return Is_step(point) &&
+               !Cut_of_step(VTP_position(p_, point - 1), VTP_position(p_, point)).empty();
     }
 
     bool Is_step(int point) const {

@@ -164,7 +164,7 @@ class Scene {
         if (word == "click") return Click_at(control, {8, control.height() / 2});
         if (word == "left") return Click_at(control, place);
         if (word == "right") return Click_at(control, place, Qt::RightButton);
-        if (word == "move") return QTest::mouseMove(&control, place);
+        if (word == "move") return Move_to(control, place);
         if (word == "type") return Type(control, rest);
         if (word == "choose") return Choose_line(static_cast<QComboBox&>(control), rest);
         if (word == "size") return control.resize(place.x(), place.y());

@@ -40,16 +40,22 @@ class ImportTest : public testing::Test {
 
     void Open() { window_.Open(Path("bay.TDM")); }
     QString Path(const char* name) { return QString::fromStdString(folder_ / name); }
-    void Drop(const char* name) {
+    void Drop(const char* name, QDialog* at_once = nullptr) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(Path(name))});
         QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&window_, &enter);
         QCoreApplication::sendEvent(&window_, &drop);
+        // What comes up at once, before the dropped file's turn.
+        if (at_once) at_once->exec();
         QCoreApplication::processEvents();
     }
     QImage Map() { return Control<QWidget>(window_, "MapView").grab().toImage(); }
+    QColor Colour_at(QPoint place) {
+        const QImage map = Map();
+        return map.pixelColor(place * map.devicePixelRatio());
+    }
     std::string Said() { return window_.statusBar()->currentMessage().toStdString(); }
     static std::string Counted(const QWidget& dialog) {
         return Control<QLabel>(dialog, "ImportCountLabel").text().toStdString();
@@ -84,7 +90,7 @@ TEST_F(ImportTest, ADroppedCoastIsCountedShownImportedAndUndone) {
             EXPECT_TRUE(lines.starts_with("1 line, ")) << lines;
             Click(Control<QCheckBox>(dialog, "FillWaterCheck"));
             EXPECT_EQ(Counted(dialog), lines + "\n3 cells; 3 polygons needed, 200 free");
-            const auto tint = [&] { return Map().pixelColor(100, 450); };
+            const auto tint = [&] { return Colour_at({100, 450}); };
             const QColor water = tint();
             Click(Control<QCheckBox>(dialog, "ReverseCheck"));
             EXPECT_NE(tint(), water) << "the water is on the other side now";
@@ -117,6 +123,17 @@ TEST_F(ImportTest, ADroppedCoastIsCountedShownImportedAndUndone) {
     EXPECT_TRUE(window_.Current_session().DataChanged);
     window_.findChild<QAction*>("EditUndo")->trigger();
     EXPECT_TRUE(window_.Current_project() == before);
+}
+
+TEST_F(ImportTest, ADropThatABoxOvertakesIsForgotten) {
+    Open();
+    QMessageBox box(&window_);
+    plan_.Then([](QWidget& modal) {
+        QTest::qWait(20);
+        EXPECT_EQ(QApplication::activeModalWidget(), &modal);
+        modal.close();
+    });
+    Drop("coast.geojson", &box);
 }
 
 TEST_F(ImportTest, AFileThatIsRefusedIsNamedInTheDialog) {

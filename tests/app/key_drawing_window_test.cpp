@@ -31,7 +31,7 @@ TEST(KeyDrawingTest, TheKeysDoWhatAMouseWouldDoWhereTheCrossIsAtEveryZoom) {
     const auto key = [&](Qt::Key pressed, Qt::KeyboardModifiers held = {}) {
         QTest::keyClick(window.focusWidget(), pressed, held);
     };
-    const auto click = [](QWidget& map, QPoint at, Qt::MouseButton button) {
+    const auto click = [](QWidget& map, QPointF at, Qt::MouseButton button) {
         for (const auto type : {QEvent::MouseMove, QEvent::MouseButtonPress}) {
             QMouseEvent event(type, at, map.mapToGlobal(at), button, button, {});
             qApp->notify(&map, &event);
@@ -55,8 +55,8 @@ TEST(KeyDrawingTest, TheKeysDoWhatAMouseWouldDoWhereTheCrossIsAtEveryZoom) {
         EXPECT_EQ(canvas.accessibleDescription().toStdString(), "Cross at " + texts(window));
         const CanvasPoint at = *canvas.Cross();
         const double zoom = Control<MapView>(window, "MapView").Scale().Zoom();
-        const QPoint pixel(qRound(at.X * zoom), qRound(at.Y * zoom));
-        EXPECT_TRUE(canvas.visibleRegion().contains(pixel)) << "the view follows";
+        const QPointF pixel(at.X * zoom, at.Y * zoom);
+        EXPECT_TRUE(canvas.visibleRegion().contains(pixel.toPoint())) << "the view follows";
         const bool is_right = random.One_in(4);
         key(Qt::Key_Return, is_right ? Qt::ShiftModifier : Qt::NoModifier);
         click(clicked, pixel, is_right ? Qt::RightButton : Qt::LeftButton);

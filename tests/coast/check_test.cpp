@@ -1,6 +1,7 @@
 // What the coast check finds in small projects, and what mending leaves of it.
 #include "coast/check.h"
 
+#include "coast/clear_along.h"
 #include "coast/finding_choice.h"
 #include "coast/mend.h"
 #include "fakes/rules_test.h"
@@ -98,6 +99,28 @@ TEST(CoastCheckTest, WhatIsFoundAndWhatMendingLeaves) {
         const std::string left = Lines(Check_coast(*project));
         return Lines(found) + "\nMended: " + (left.empty() ? "nothing is left" : left);
     });
+}
+
+TEST(CoastCheckTest, AProjectIsNearItsLimitFromNineTenthsOn) {
+    Project project;
+    for (const int count : {899, 900}) {
+        project.KillCount = count;
+        EXPECT_EQ(
+            Lines(Check_coast(project)).find("holds 900 of at most 1000") != std::string::npos,
+            count == 900);
+    }
+}
+
+TEST(ClearAlongTest, EveryCellThatTheSegmentRunsThroughIsClearedOnce) {
+    // A step skips [ 12, 7 ]; [ 11, 7 ] is cleared of coastlines already, [ 13, 7 ] of something
+    // else.
+    const auto project = Cell_project("-200,110 300,110 300,300");
+    Add_cleared_cell(*project, 11, 7, ClearCoastlines);
+    Add_cleared_cell(*project, 13, 7, ClearRivers);
+    const auto cells = Cells_to_clear(*project, 2);
+    EXPECT_EQ(cells, (std::vector<LOD13Cell>{{12, 7}, {13, 7}, {13, 8}}));
+    Clear_cells(*project, 2, cells);
+    EXPECT_THAT(Cells_to_clear(*project, 1), testing::IsEmpty());
 }
 
 TEST(CoastCheckTest, ARefusedClickIsExplainedByTheFirstErrorOfItsCellOrTheNearestAround) {
