@@ -20,7 +20,7 @@ class Utf8Console {
     Utf8Console();
     Utf8Console(const Utf8Console&) = delete;
     Utf8Console& operator=(const Utf8Console&) = delete;
-    ~Utf8Console();
+    ~Utf8Console();  // NOLINT(performance-trivially-destructible): on Windows it does something
 
   private:
     [[maybe_unused]] unsigned before_ = 0;  // the alphabet that it was told before; 0: none
