@@ -183,6 +183,8 @@ TEST_F(RecoveryWindowTest, AFileThatAnotherProgramChangesOrTakesAwayIsNoticed) {
         return QTest::qWaitFor([&] { return window_.statusBar()->currentMessage().contains(text); },
                                2000);
     };
+    plan_.Then_answer(QMessageBox::No);
+    Choose_entry(window_, "FileMenu", "FileSave");
     Write_file(path, "another's");
     EXPECT_TRUE(comes_up("has been changed by another program"));
     DiskFiles().Delete(path);
