@@ -97,6 +97,12 @@ TEST_F(MainWindowTest, TheDialogsOfThePanelLeadBackToIt) {
     }
 }
 
+TEST_F(MainWindowTest, ANewProjectCanBeSavedAgainOnceItHasAName) {
+    plan_.Then_choose(QString::fromStdString(folder_ / "new.TDM")).Then_answer();
+    Choose_entry(window_, "FileMenu", "FileSaveAs");
+    EXPECT_TRUE(window_.findChild<QAction*>("FileSave")->isEnabled());
+}
+
 TEST_F(MainWindowTest, AMovedProjectIsSavedWhereItWasAndKeepsTheTitleItWasOpenedUnder) {
     const QString moved = QString::fromStdString(folder_ / "moved one.tdm");
     ASSERT_TRUE(QFile::copy(Write_project("stored.tdm"), moved));

@@ -69,6 +69,11 @@ TEST_F(RecoveryWindowTest, RecoveredWorkIsTheProjectUnsavedUntilItIsSavedOrUndon
     EXPECT_TRUE(DiskFiles().Exists(folder_ / "state/1.recovery")) << "nobody has given it up";
     window_.findChild<QAction*>("EditRedo")->trigger();
     EXPECT_TRUE(window_.Current_project() == lost_);
+    plan_.Then_choose(QString::fromStdString(folder_ / "saved.TDM")).Then_answer();
+    Choose_entry(window_, "FileMenu", "FileSaveAs");
+    const auto is_gone = [&] { return !DiskFiles().Exists(folder_ / "state/1.recovery"); };
+    EXPECT_TRUE(QTest::qWaitFor(is_gone, 3000)) << "what is saved is not lost";
+    EXPECT_NO_THROW(plan_.Finish());
 }
 
 // A box of the opening is up when the offer is due.
@@ -178,6 +183,8 @@ TEST_F(RecoveryWindowTest, AFileThatAnotherProgramChangesOrTakesAwayIsNoticed) {
         return QTest::qWaitFor([&] { return window_.statusBar()->currentMessage().contains(text); },
                                2000);
     };
+    plan_.Then_answer(QMessageBox::No);
+    Choose_entry(window_, "FileMenu", "FileSave");
     Write_file(path, "another's");
     EXPECT_TRUE(comes_up("has been changed by another program"));
     DiskFiles().Delete(path);

@@ -169,6 +169,11 @@ TEST_F(ZoomTest, WheelFingersAndMouseMoveTheMapUnderThePointer) {
     QTest::keyRelease(&canvas_, Qt::Key_Space);
     Drag(Qt::LeftButton, {20, 20}, {40, 40});
     EXPECT_EQ(now_.VTPCount, 1);
+    QTest::keyPress(&canvas_, Qt::Key_Space);
+    QFocusEvent leaves(QEvent::FocusOut);  // for a window that hears of the key's release
+    QCoreApplication::sendEvent(&canvas_, &leaves);
+    Drag(Qt::LeftButton, {60, 60}, {80, 80});
+    EXPECT_EQ(now_.VTPCount, 2);
 }
 
 TEST_F(ZoomTest, AResizeKeepsTheMiddleUnlessTheMapIsAtItsOwnSize) {

@@ -101,6 +101,14 @@ TEST(CoastCheckTest, WhatIsFoundAndWhatMendingLeaves) {
     });
 }
 
+TEST(CoastCheckTest, AStepFromAPointThatMovesInsideIsCutWithIt) {
+    const auto project = Cell_project("-256,110 -200,110 255,100 257,200 511,200");
+    Findings moved = Check_coast(*project);
+    std::erase_if(moved, [](const Finding& f) { return f.Mending != Remedy::MoveInside; });
+    Mend(*project, moved);
+    EXPECT_EQ(Lines(Check_coast(*project)), "");
+}
+
 TEST(CoastCheckTest, AProjectIsNearItsLimitFromNineTenthsOn) {
     Project project;
     for (const int count : {899, 900}) {

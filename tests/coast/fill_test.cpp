@@ -85,6 +85,17 @@ TEST(FillTest, RandomCoastsAreMendedAndFilledBothWays) {
     }
 }
 
+TEST(FillTest, APolygonOfTheOtherKindIsInTheWay) {
+    const auto project = Cell_project("0,110 60,110 255,110");
+    EXPECT_TRUE(Begin_polygon(*project, {}));
+    Fill(*project, Plan_fill(*project, 1, {}));
+    ASSERT_EQ(project->LWMCount, 2);
+    project->LWMType(2) = project->LWMType(1);
+    const FillPlan plan = Plan_fill(*project, 1, {});
+    ASSERT_EQ(plan.Stops.size(), 1U);
+    EXPECT_EQ(plan.Stops[0].Why, "polygon 2 is in the way");
+}
+
 TEST(FillTest, ThinnedGoldenGateIsMendedAndFilledBothWays) {
     const auto project = std::make_unique<Project>();
     EXPECT_FALSE(Read_project(Source_file("sample/golden-gate.TDM"), *project).Error);

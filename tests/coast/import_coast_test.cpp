@@ -156,6 +156,11 @@ TEST(ImportCoastTest, JaggedCoastsAreClosedWhereTheyAreTooNarrowToBeBuilt) {
         const auto project = Whole_cell();
         Expect_built(*project, Lay_coast(*project, Jagged_coast(*project, seed), {}));
     }
+    const auto project = Whole_cell();
+    const std::vector<CoastLine> lines = Jagged_coast(*project, 1);
+    for (const bool reverse : {false, true})
+        for (const LaidLine& line : Lay_coast(*project, lines, {.Reverse = reverse}).Lines)
+            EXPECT_EQ(line.LandOnLeft, !reverse);
 }
 
 // Its 1024 cells hold what a real coast has; all of it needs more polygons than a project holds.

@@ -23,9 +23,9 @@ TEST(GeoPositionTest, PlacesAndWaysHaveTheirTexts) {
     const auto way = [](GeoPosition from, GeoPosition to) {
         return Leg_text(Leg_between(from, to));
     };
-    // A quarter of the equator, a tenth of a degree north, and across the date line.
+    // A quarter of the equator, just short of a kilometre south, and across the date line.
     EXPECT_EQ(way({0, 0}, {0, 90}), "10007.56 km  090°");
-    EXPECT_EQ(way({10, 20}, {9.991, 20}), "1.00 km  180°");
+    EXPECT_EQ(way({10, 20}, {9.99101, 20}), "1.00 km  180°");
     EXPECT_EQ(way({0, 179.996}, {0, -179.996}), "890 m  090°");
 }
 

@@ -34,8 +34,9 @@ TEST(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRightAndTakesTheCalcul
             EXPECT_EQ(Text(dialog, "LOD8Y"), "191") << "No was answered";
             Type(Control<QLineEdit>(dialog, "LOD13brX"), "5");
             Type(Control<QLineEdit>(dialog, "LOD8X"), "15");
+            Type(Control<QLineEdit>(dialog, "LOD8Y"), "190");
             EXPECT_EQ(Text(dialog, "LatLabel") + Text(dialog, "LonLabel"),
-                      "( Appoximate Latitude of this cell is N 22.5 )"
+                      "( Appoximate Latitude of this cell is N 22.85 )"
                       "( Appoximate Longitude of this cell is W 172.5 )");
             Press(dialog, Qt::Key_Escape);  // as OK
         })
@@ -54,8 +55,8 @@ TEST(GeorefWindowTest, TheDialogComesBackUntilItsValuesAreRightAndTakesTheCalcul
     EXPECT_NO_THROW(plan.Finish());
     EXPECT_TRUE(
         messages.Said().ends_with("copy these co-ordinates to the background properties box?"));
-    EXPECT_EQ(Georeference_texts(project), (GeoreferenceTexts{"15", "191", "3", "4", "5", "4"}));
-    EXPECT_EQ(project.CellLatitude, 22);
+    EXPECT_EQ(Georeference_texts(project), (GeoreferenceTexts{"15", "190", "3", "4", "5", "4"}));
+    EXPECT_EQ(project.CellLatitude, 23);
     EXPECT_EQ(project.CellLongitude, -172);
     EXPECT_EQ(project.ScaleX, 2);
     EXPECT_EQ(project.ScaleY, 1);

@@ -274,9 +274,14 @@ TEST_F(DocumentTest, TheHistoryIsSmallAndDropsItsOldestSteps) {
     Document limited(other, 2000);
     for (int step = 1; step <= 100; ++step)
         limited.Do(std::to_string(step), [](Project& p) { ++p.BGLOD8X; });
+    for (int step = 1; step <= 100; ++step) {
+        limited.Undo();
+        limited.Do("again", [](Project& p) { ++p.BGLOD8X; });
+    }
     EXPECT_LE(limited.History_bytes(), 2000U);
     while (limited.Can_undo()) limited.Undo();
     EXPECT_GT(limited.Now().BGLOD8X, 80);
+    EXPECT_LT(limited.Now().BGLOD8X, 99) << "what was undone has no bytes any more";
 }
 
 }  // namespace tidemark

@@ -20,6 +20,7 @@ TEST(PreferencesWindowTest, ItGrowsWithTheNamesWhileTheyAreTyped) {
             const auto& label = Control<QLabel>(dialog, name);
             EXPECT_GE(label.height(), label.heightForWidth(label.width())) << name;
         }
+        EXPECT_FALSE(Control<QPushButton>(dialog, "FSBrowseButton").isEnabled()) << "no copy";
         Click(Control<QPushButton>(dialog, "OKbutton"));
     });
     EXPECT_TRUE(

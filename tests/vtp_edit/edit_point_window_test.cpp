@@ -57,6 +57,8 @@ TEST_F(EditPointTest, TheChosenFormIsCheckedAndStored) {
     Expect_cases("vtp_edit/data/edits.txt", [this](const Given& given) {
         const std::string &form = given[0], x = form + "X", y = form + "Y";
         const bool edited = Edit(5000, 6000, [&] {
+            const bool by_VTP = Control<QRadioButton>(dialog, "Option1").isChecked();
+            EXPECT_EQ(dialog.focusWidget(), &Field(by_VTP ? "VTPX" : "LOD13X"));
             Click(Control<QRadioButton>(dialog, form == "VTP" ? "Option1" : "Option2"));
             Type(Field(x.c_str()), QString::fromStdString(given[1]));
             Type(Field(y.c_str()), QString::fromStdString(given[2]));
