@@ -13,7 +13,7 @@ namespace tidemark {
 
 namespace fs = std::filesystem;
 
-const std::string folder = TIDEMARK_SOURCE_DIR "/Documentation/";
+const std::string documents = TIDEMARK_SOURCE_DIR "/Documentation/";
 
 // What the pattern's group matches each time, or with -1 what stands between.
 static std::vector<std::string> Found(const std::string& text, const char* pattern, int group = 1) {
@@ -45,7 +45,7 @@ static std::vector<std::string> Pieces(const std::string& message) {
 // All that a page marks as the program's own words, one piece a line.
 static std::string Quoted_in(const std::string& page) {
     std::string quoted;
-    const std::string text = File_content(folder + page);
+    const std::string text = File_content(documents + page);
     for (const std::string& words :
          Found(text, "<(?:q class=\"says\"|b class=\"(?:ui|menu)\")>([^]*?)</[qb]>"))
         for (const std::string& piece : Pieces(words)) quoted += piece + '\n';
@@ -81,7 +81,7 @@ class DocumentsTest : public testing::TestWithParam<const char*> {
     inline static std::set<std::string> captions_ = {"OK"};  // each without access key, and Qt's
     inline static std::set<std::string> keys_;               // that the program looks for
 
-    const std::string text_ = File_content(folder + GetParam());
+    const std::string text_ = File_content(documents + GetParam());
 };
 
 TEST_P(DocumentsTest, EveryLinkAndPictureIsThere) {
@@ -89,10 +89,10 @@ TEST_P(DocumentsTest, EveryLinkAndPictureIsThere) {
     EXPECT_GT(targets.size(), 10U);
     for (const std::string& target : targets) {
         const std::string file = target.substr(0, target.find('#'));
-        EXPECT_TRUE(file.empty() || fs::is_regular_file(folder + file)) << target;
+        EXPECT_TRUE(file.empty() || fs::is_regular_file(documents + file)) << target;
         if (target.find('#') == target.npos) continue;
         const std::string id = "id=\"" + target.substr(target.find('#') + 1) + "\"";
-        const std::string page = file.empty() ? text_ : File_content(folder + file);
+        const std::string page = file.empty() ? text_ : File_content(documents + file);
         EXPECT_NE(page.find(id), page.npos) << target;
     }
 }
@@ -171,7 +171,7 @@ struct LayoutRows {
 
 // A project with one entry in each table visits each value once.
 TEST(ProjectFilePageTest, NamesTheValuesInTheOrderOfTheFileWithTheirForms) {
-    const std::string page = File_content(folder + "ProjectFile.html");
+    const std::string page = File_content(documents + "ProjectFile.html");
     Project one;
     one.VTPCount = one.KillCount = one.LWMCount = one.LWMPointCount(1) = 1;
     LayoutRows layout;
@@ -185,7 +185,7 @@ TEST(ProjectFilePageTest, NamesTheValuesInTheOrderOfTheFileWithTheirForms) {
 }
 
 TEST(ProjectFilePageTest, ItsExampleIsAProjectFileByteForByte) {
-    const std::string page = File_content(folder + "ProjectFile.html");
+    const std::string page = File_content(documents + "ProjectFile.html");
     const std::string example = Found(page, "<pre id=\"file\"><code>([^]*?)</code></pre>").at(0);
     const std::string bytes = std::regex_replace(example, std::regex("\n"), "\r\n");
     Project project;

@@ -13,9 +13,9 @@ struct Point {
     int X, Y;
     auto operator<=>(const Point&) const = default;
 };
-using Segment = std::pair<Point, Point>;
+using LineSegment = std::pair<Point, Point>;
 
-int Side(const Segment& segment, Point point) {
+int Side(const LineSegment& segment, Point point) {
     const auto [from, to] = segment;
     const int area = (to.X - from.X) * (point.Y - from.Y) - (to.Y - from.Y) * (point.X - from.X);
     return (area > 0) - (area < 0);
@@ -25,8 +25,8 @@ bool Is_within(Point point, Point low, Point high) {
     return point.X >= low.X && point.X <= high.X && point.Y >= low.Y && point.Y <= high.Y;
 }
 
-bool Meet(const Segment& one, const Segment& other) {
-    const auto is_on = [](const Segment& segment, Point point) {
+bool Meet(const LineSegment& one, const LineSegment& other) {
+    const auto is_on = [](const LineSegment& segment, Point point) {
         const auto [x, east] = std::minmax(segment.first.X, segment.second.X);
         const auto [y, north] = std::minmax(segment.first.Y, segment.second.Y);
         return Side(segment, point) == 0 && Is_within(point, {x, y}, {east, north});
@@ -40,7 +40,7 @@ bool Meet(const Segment& one, const Segment& other) {
 struct Box {
     Point Low, High;
 
-    bool Meets(const Segment& segment) const {
+    bool Meets(const LineSegment& segment) const {
         const Point south_east{High.X, Low.Y}, north_west{Low.X, High.Y};
         return Is_within(segment.first, Low, High) || Is_within(segment.second, Low, High) ||
                Meet(segment, {Low, south_east}) || Meet(segment, {south_east, High}) ||
@@ -62,7 +62,7 @@ std::vector<Point> Unrolled(const std::vector<Point>& line) {
 }
 
 struct Found {
-    std::multiset<Segment> Segments;
+    std::multiset<LineSegment> Segments;
     int Runs = 0;
     bool operator==(const Found&) const = default;
 };
@@ -78,9 +78,9 @@ Found Searched(const std::vector<Point>& line, const Box& box) {
     const auto moved = [&](int at, int turns) {
         const auto from = points[static_cast<std::size_t>(at)];
         const auto to = points[static_cast<std::size_t>(at) + 1];
-        return Segment{{from.X - 360 * turns, from.Y}, {to.X - 360 * turns, to.Y}};
+        return LineSegment{{from.X - 360 * turns, from.Y}, {to.X - 360 * turns, to.Y}};
     };
-    const auto is_kept = [&](const Segment& segment) {
+    const auto is_kept = [&](const LineSegment& segment) {
         const auto [from, to] = segment;
         const bool on_date_line = from.X == to.X && (from.X % 360 == 180 || from.X % 360 == -180);
         const bool at_pole = from.Y == to.Y && (from.Y == 90 || from.Y == -90);
