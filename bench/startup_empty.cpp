@@ -1,5 +1,5 @@
-// The start-up of an empty Qt program with a main window and a tool window; with an argument, the
-// main window has a menu bar with that one word, for which Qt loads its fonts and image plugins.
+// The start-up of an empty Qt program with a main window and a tool window; with arguments, the
+// main window has a menu bar with these words, for which Qt loads its fonts and image plugins.
 #include <QMainWindow>
 #include <QMenuBar>
 
@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     QWidget tool(&window, Qt::Tool);
     window.resize(1280, 960);  // the editor's sizes
     tool.resize(332, 960);
-    if (argc > 1) window.menuBar()->addMenu(argv[1]);
+    for (int i = 1; i < argc; ++i) window.menuBar()->addMenu(argv[i]);
     window.show();
     tool.show();
     return QApplication::exec();
