@@ -21,8 +21,8 @@ struct CoastTask {
 
 // Writes the projects of each cell into the folder, where they replace older ones of the same name;
 // a project of further polygons that the cell no longer needs is removed. A cell whose first
-// project is newer than all coast files and was made with these options (coast_upkeep.h) is up to
-// date and passed over.
+// project is newer than all coast files and was made of them with these options (coast_upkeep.h) is
+// up to date and passed over.
 // Prints a line for each project to `out`, by cell; what is wrong goes to `errors`, with remarks on
 // what was left out. True when nothing was refused and no project has an error.
 //

@@ -7,6 +7,8 @@
 #include <optional>
 #include <system_error>
 
+#include "model/path_text.h"
+
 namespace tidemark {
 
 namespace fs = std::filesystem;
@@ -39,13 +41,27 @@ std::string Text_of(const CoastProjectOptions& options) {
            (importing.ClearCells ? " --clear" : "") + "\n";
 }
 
+// A coast is known by its name and size wherever it lies, as machines that share the work may each
+// have it elsewhere.
+std::string Text_of(const std::vector<std::string>& coasts, Files& files) {
+    std::string text;
+    for (const std::string& coast : coasts)
+        text += Last_part(coast) + " " + std::to_string(files.Size(coast).value_or(0)) + "\n";
+    return text;
+}
+
 }  // namespace
 
+// A folder from before the coasts were noted goes on holding.
 CoastUpkeep::CoastUpkeep(Files& files, std::string folder, const CoastProjectOptions& options,
                          const std::vector<std::string>& coasts)
-    : files_(files), folder_(std::move(folder)), text_(Text_of(options)), coasts_(coasts) {
+    : files_(files),
+      folder_(std::move(folder)),
+      text_(Text_of(options) + Text_of(coasts, files)),
+      coasts_(coasts) {
     std::string noted;
-    is_noted_ = files_.Read(Options_path(), text_.size(), noted) && noted == text_;
+    is_noted_ = files_.Read(Options_path(), text_.size(), noted) &&
+                (noted == text_ || noted == Text_of(options));
 }
 
 // A file system may give what is made at once the same time: the options are noted first.

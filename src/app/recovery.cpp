@@ -98,6 +98,13 @@ FileResult Recovery::Take_slot() {
     return FileResult::Failed(reason);
 }
 
+// A lock whose file is gone, as when a folder was cleaned out, keeps nobody away any more.
+FileResult Recovery::Hold_slot() {
+    if (slot_.Lock.Is_held() && !files_.Exists(slot_.LockFile) && Make_folder(folder_))
+        slot_.Lock = FileLock(slot_.LockFile);
+    return slot_.Lock.Is_held() ? FileResult::Done() : Take_slot();
+}
+
 FileResult Recovery::Tend(const std::string& project_path, const Project& project,
                           std::string_view time, Moment now) {
     const auto step = schedule_.Step_at(now);
@@ -121,8 +128,7 @@ FileResult Recovery::Write_file(const std::string& project_path, const Project& 
                                 std::string_view time) {
     if (const auto unsavable = Unsavable_text(project))
         return FileResult::Failed(*unsavable + " cannot be saved");
-    if (!slot_.Lock.Is_held())
-        if (FileResult taken = Take_slot(); !taken) return taken;
+    if (FileResult held = Hold_slot(); !held) return held;
     return files_.Replace(slot_.File, Recovery_file_bytes(project_path, time, project));
 }
 

@@ -83,6 +83,7 @@ class Recovery {
 
   private:
     FileResult Take_slot();
+    FileResult Hold_slot();
     FileResult Write_file(const std::string& project_path, const Project& project,
                           std::string_view time);
     std::string Set_aside(const std::string& file);

@@ -1,5 +1,7 @@
 #include "app/recovery_keeper_window.h"
 
+#include <utility>
+
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -82,8 +84,8 @@ void RecoveryKeeper::End() {
 }
 
 void RecoveryKeeper::Complain_once(const FileResult& result) {
-    if (result || has_complained_) return;
-    has_complained_ = true;
+    const bool is_told = std::exchange(has_complained_, !result);
+    if (result || is_told) return;
     Q_EMIT Remarked("Recovery: unsaved work cannot be " +
                     QString(document_.Differs_from_saved() ? "kept: " : "removed: ") +
                     To_qt(result.Reason()));

@@ -77,6 +77,7 @@ class Joining {
         if (!Closes(line)) return;
         line.Points.pop_back();
         line.IsRing = line.Points.size() > 2;
+        if (!line.IsRing) line.Points.clear();  // there and straight back is no coast
     }
 
     static bool Closes(const MapLine& line) {

@@ -34,7 +34,8 @@ struct MapLine {
 std::vector<MapLine> Clipped(const MapLine& line, const MapRectangle& rectangle);
 
 // Lines that go on where another ends become one, and those that come back to their start become
-// rings. Lines whose land side is not known are turned round for it where needed.
+// rings, or lose their points when they only go to one place and back. Lines whose land side is not
+// known are turned round for it where needed.
 std::vector<MapLine> Joined(std::vector<MapLine> lines);
 
 // The square of the distance.

@@ -94,6 +94,13 @@ TEST_F(RecoveryTest, WorkIsOfferedOnceItsEditorIsGoneToOneEditorAtATimeUntilItIs
     EXPECT_TRUE(running.Remove());
     EXPECT_EQ(Found(), "");
     EXPECT_FALSE(files_.Exists(asking.File()) || files_.Exists(running.File()));
+
+    std::filesystem::remove_all(path_);
+    EXPECT_TRUE(running.Write_at("anew", work_)) << "the folder was taken away";
+    std::filesystem::remove(path_ + "/1.lock");
+    std::filesystem::remove(path_ + "/2.lock");
+    EXPECT_TRUE(running.Write_at("anew", work_));
+    EXPECT_EQ(Found(), "") << "it is living, and so is its lock";
 }
 
 TEST_F(RecoveryTest, TheFileIsTheProjectsBytesBehindFourLines) {
