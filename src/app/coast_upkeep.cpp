@@ -52,16 +52,20 @@ std::string Text_of(const std::vector<std::string>& coasts, Files& files) {
 
 }  // namespace
 
-// A folder from before the coasts were noted goes on holding.
 CoastUpkeep::CoastUpkeep(Files& files, std::string folder, const CoastProjectOptions& options,
                          const std::vector<std::string>& coasts)
     : files_(files),
       folder_(std::move(folder)),
       text_(Text_of(options) + Text_of(coasts, files)),
-      coasts_(coasts) {
+      text_before_coasts_(Text_of(options)),
+      coasts_(coasts),
+      is_noted_(Is_written()) {}
+
+// A folder from before the coasts were noted goes on holding.
+bool CoastUpkeep::Is_written() const {
     std::string noted;
-    is_noted_ = files_.Read(Options_path(), text_.size(), noted) &&
-                (noted == text_ || noted == Text_of(options));
+    return files_.Read(Options_path(), text_.size(), noted) &&
+           (noted == text_ || noted == text_before_coasts_);
 }
 
 // A file system may give what is made at once the same time: the options are noted first.
@@ -74,7 +78,10 @@ bool CoastUpkeep::Holds(const std::string& name) const {
     });
 }
 
+// A run beside this one may have noted them meanwhile, and its projects are not to be older than
+// that.
 FileResult CoastUpkeep::Note_options() {
+    is_noted_ = is_noted_ || Is_written();
     if (is_noted_) return FileResult::Done();
     FileResult written = files_.Replace(Options_path(), text_);
     is_noted_ = static_cast<bool>(written);

@@ -33,11 +33,14 @@ class CoastUpkeep {
     std::string Options_path() const { return folder_ + CoastOptionsName; }
 
   private:
+    bool Is_written() const;
+
     Files& files_;
     const std::string folder_;
-    const std::string text_;  // of the options and the coasts
+    const std::string text_;                // of the options and the coasts
+    const std::string text_before_coasts_;  // what the file held while it named no coasts
     const std::vector<std::string>& coasts_;
-    bool is_noted_ = false;
+    bool is_noted_;
 };
 
 }  // namespace tidemark

@@ -171,11 +171,25 @@ TEST_F(CoastCompanionTest, AnIslandInTwoCellsIsAProjectEachUntilItChanges) {
     Write_file("out/" + std::string(CoastOptionsName),
                "--mode 1 --width 80 --tolerance 30 --fill both --land left --clear\n");
     fs::last_write_time("out/" + std::string(CoastOptionsName),
-                        fs::last_write_time("out/coast-122-148.TDM"));
+                        fs::last_write_time("out/coast-122-148.TDM") - std::chrono::hours(1));
     EXPECT_EQ(Run(true), up_to_date) << "made when coasts were not noted";
     fs::last_write_time("isle.json", fs::last_write_time("out/coast-123-148.TDM"));
     fs::remove("out/coast-122-148.TDM");
     EXPECT_EQ(Run(true), made);
+}
+
+TEST_F(CoastCompanionTest, ARunBesideAnotherDoesNotMakeItsProjectsOld) {
+    DiskFiles files;
+    const std::vector<std::string> coasts;
+    CoastUpkeep one(files, "out/", task_.Options, coasts);
+    CoastUpkeep beside(files, "out/", task_.Options, coasts);
+    EXPECT_TRUE(one.Note_options());
+    const fs::path noted = one.Options_path();
+    fs::last_write_time(noted, fs::last_write_time(noted) - std::chrono::hours(1));
+    Write_file("out/coast-0-0.TDM", "made meanwhile");
+    fs::last_write_time("out/coast-0-0.TDM", fs::last_write_time(noted));
+    EXPECT_TRUE(beside.Note_options());
+    EXPECT_TRUE(beside.Holds("coast-0-0.TDM"));
 }
 
 TEST_F(CoastCompanionTest, PolygonsBeyondTheLimitGoIntoFurtherProjectsOfTheCell) {
