@@ -34,8 +34,13 @@ std::optional<double> Number_in(std::string_view text) {
 class WellKnownText {
   public:
     explicit WellKnownText(std::string_view text) : text_(text), upper_(text) {
-        for (char& letter : upper_)
-            letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+        bool is_quoted = false;  // what is called after a keyword is none
+        for (char& letter : upper_) {
+            if (letter == '"') is_quoted = !is_quoted;
+            letter = is_quoted
+                         ? ' '
+                         : static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+        }
     }
 
     // Of the first of these keywords that the text has.
