@@ -48,7 +48,8 @@ double Twice_area(const std::vector<MapPoint>& points) {
 DraftLine Cut_loop(DraftLine& line, std::size_t first, std::size_t last) {
     return {
         {Take_out(line.Line.Points, first, last + 1), true, line.Line.LandOnLeft, line.Line.Origin},
-        Take_out(line.Significances, first, last + 1)};
+        Take_out(line.Significances, first, last + 1),
+        line.LeftOut};
 }
 
 void Exchange_tails(DraftLine& one, std::size_t at, DraftLine& other, std::size_t other_at) {
