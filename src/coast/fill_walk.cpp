@@ -52,7 +52,7 @@ PolygonKind FillWalk::Kind_of(bool is_water) const {
 }
 
 // Makes the cell known by what its seed says of one piece; its pieces of the other kind are reached
-// with it when both kinds are wanted.
+// with it when that kind is wanted.
 FillWalk::ReachedCell& FillWalk::Reach(LOD13Cell cell, FillSeed seed) {
     const bool even_is_water = seed.IsWater != seed.Pieces.Parity(seed.Piece);
     const bool has_inner = ground_.Has_inner(cell);

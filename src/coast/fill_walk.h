@@ -15,9 +15,9 @@ namespace tidemark {
 
 class FillWalk {
   public:
-    // Polygons of the first one's kind have its height. From a polygon the other kind is taken only
-    // where the walk comes to it, unless `takes_all_pieces`: then, in every cell that is reached,
-    // all pieces of the wanted kinds.
+    // Polygons of the first one's kind have its height. Pieces of that kind are taken only where
+    // the walk comes to them, unless `takes_all_pieces`; those of the other kind, when it is
+    // wanted, in every cell that is reached.
     FillWalk(const FillGround& ground, PolygonKind first, bool takes_all_pieces);
 
     // From a polygon's piece.
