@@ -1,6 +1,7 @@
 // Key codes as the handlers know them.
 #pragma once
 
+#include <QChar>
 #include <QKeyEvent>
 
 namespace tidemark {
@@ -10,7 +11,9 @@ inline constexpr int KeyE = 69;
 
 // Whether the key of the letter E, where the keyboard's own letters are not Latin ones.
 inline bool Is_E_of_other_letters(const QKeyEvent& event) {
-    if (event.key() <= Qt::Key_AsciiTilde || event.key() >= Qt::Key_Escape) return false;
+    if (event.key() <= Qt::Key_AsciiTilde || event.key() >= Qt::Key_Escape ||
+        QChar::script(static_cast<char32_t>(event.key())) == QChar::Script_Latin)
+        return false;
 #ifdef Q_OS_WIN
     return event.nativeVirtualKey() == KeyE;
 #else
