@@ -29,6 +29,8 @@ Safekeeping::Safekeeping(Document& document, Session& session, Platform& platfor
             [this](const QString& path) { Q_EMIT Said(File_changed_text(Path_from_qt(path))); });
     connect(&watch_, &ProjectWatch::Vanished, this,
             [this](const QString& path) { Q_EMIT Said(File_gone_text(Path_from_qt(path))); });
+    session_end_.setSingleShot(true);
+    connect(&session_end_, &QTimer::timeout, this, &Safekeeping::Session_goes_on);
 }
 
 void Safekeeping::Keep_work_in(const std::string& folder) {
@@ -54,12 +56,16 @@ void Safekeeping::Session_ends() {
     constexpr int long_enough = 60000;  // milliseconds
     recovery_->Write_now();
     is_session_ending_ = true;
-    QTimer::singleShot(long_enough, this, [this] { is_session_ending_ = false; });
+    session_end_.start(long_enough);
 }
 
 void Safekeeping::Save() {
+    is_saving_ = true;
     watch_.Watch({});  // our own writing is no other program's
-    const auto watch_again = qScopeGuard([this] { Watch_project(); });
+    const auto watch_again = qScopeGuard([this] {
+        is_saving_ = false;
+        Watch_project();
+    });
     if (Save_project(document_, session_, platform_) && recovery_) recovery_->Notice_saved();
 }
 
@@ -69,7 +75,8 @@ void Safekeeping::Watch_project() {
 
 void Safekeeping::Notice() {
     is_session_ending_ = false;
-    if (watch_.Watched() != To_qt(Save_path(document_.Now(), session_))) Watch_project();
+    if (!is_saving_ && watch_.Watched() != To_qt(Save_path(document_.Now(), session_)))
+        Watch_project();
     if (recovery_) recovery_->Notice();
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include <QObject>
+#include <QTimer>
 
 #include "app/project_watch_window.h"
 #include "app/recovery_keeper_window.h"
@@ -58,6 +59,8 @@ class Safekeeping : public QObject {
     ProjectWatch watch_;
     std::unique_ptr<RecoveryKeeper> recovery_;  // null: nothing is kept
     bool is_session_ending_ = false;            // of the desktop
+    QTimer session_end_;                        // for as long as it may still come
+    bool is_saving_ = false;
 };
 
 }  // namespace tidemark
