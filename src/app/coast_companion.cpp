@@ -164,6 +164,9 @@ class CoastCompanion {
                 report.IsRefused = true;
             } else if (projects.Each.empty()) {
                 report.Out = name + ": no coast to lay\n";
+                // It may hold what was drawn by hand since.
+                if (files_.Exists(folder_ + name + ".TDM"))
+                    report.Errors += name + ": Remark: the project of an earlier run is left\n";
             } else {
                 Write(cell.Cell, projects.Each, report);
             }

@@ -46,8 +46,9 @@ LOD13Cell Beyond_edge(const EdgeCrossing& crossing) {
 
 }  // namespace
 
-std::vector<NarrowPlace> Narrow_places(const std::vector<CoastStep>& steps,
-                                       std::span<const Position> ends) {
+std::vector<NarrowPlace> Narrow_places(
+    const std::vector<CoastStep>& steps, std::span<const Position> ends,
+    const std::function<bool(const CoastStep&, const CoastStep&)>& can_join) {
     const std::vector<EdgeCrossing> crossings = Crossings(steps);
     std::map<LOD13Cell, int> counts;
     for (const Position& end : ends) ++counts[Cell_at(end)];
@@ -63,6 +64,7 @@ std::vector<NarrowPlace> Narrow_places(const std::vector<CoastStep>& steps,
     for (std::size_t i = 0; i + 1 < crossings.size(); ++i) {
         const EdgeCrossing &one = crossings[i], &next = crossings[i + 1];
         if (one.Cell != next.Cell || one.Axis != next.Axis || one.Ahead == next.Ahead) continue;
+        if (!can_join(steps[one.Step], steps[next.Step])) continue;
         const int width = next.Along - one.Along;
         for (const LOD13Cell cell : {one.Cell, Beyond_edge(one)}) {
             if (counts[cell] <= MaxPolyNumber) continue;

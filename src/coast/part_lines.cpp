@@ -165,13 +165,14 @@ class Parting {
         draft_.Add(std::move(loop));
     }
 
-    // Of each cell that lines cross too often the narrowest place is closed.
+    // Of each cell that lines cross too often the narrowest place that can be is closed.
     void Thin_out(const std::vector<CoastStep>& steps) {
-        for (const NarrowPlace& place : Narrow_places(steps, draft_.Ends_on_map_edge())) {
+        const auto can_join = [this](const CoastStep& one, const CoastStep& other) {
+            return Can_join(one, other);
+        };
+        for (const NarrowPlace& place : Narrow_places(steps, draft_.Ends_on_map_edge(), can_join)) {
             const CoastStep *one = &steps[place.Step], *other = &steps[place.Other];
-            if (untouched_[one->Line] < Whole || untouched_[other->Line] < Whole ||
-                !Can_join(*one, *other))
-                continue;
+            if (untouched_[one->Line] < Whole || untouched_[other->Line] < Whole) continue;
             if (one->Line == other->Line && one->Chord > other->Chord) std::swap(one, other);
             Close(*one, *other);
             if (!crowded_.insert(place.Crowded).second) continue;

@@ -195,17 +195,20 @@ TEST_F(CoastCompanionTest, ARunBesideAnotherDoesNotMakeItsProjectsOld) {
 TEST_F(CoastCompanionTest, PolygonsBeyondTheLimitGoIntoFurtherProjectsOfTheCell) {
     Give_coast("gate.geojson", Source_file("sample/golden-gate-coastline.geojson"));
     task_.Cells = {{122, 148}, {0, 0}, {122, 148}};
-    Write_file("out/coast-122-148-c.TDM", "of an earlier run");
+    for (const char* name : {"out/coast-122-148-c.TDM", "out/coast-0-0.TDM"})
+        Write_file(name, "of an earlier run");
     EXPECT_EQ(Run(true),
               "coast-0-0: no coast to lay\n"
               "coast-122-148-c.TDM: removed\n"
               "coast-122-148.TDM: N points, N polygons, N cleared cells, no errors\n"
-              "coast-122-148-b.TDM: N points, N polygons, N cleared cells, no errors\n");
+              "coast-122-148-b.TDM: N points, N polygons, N cleared cells, no errors\n"
+              "coast-0-0: Remark: the project of an earlier run is left\n");
     Expect_goes_on("coast-122-148.TDM", "coast-122-148-VTP.asm coast-122-148-LWM.asm ");
     Expect_goes_on("coast-122-148-b.TDM", "coast-122-148-b-LWM.asm ");
     EXPECT_EQ(projects_[0].LWMCount, MaxLWMCount);
     EXPECT_EQ(projects_[1].VTPCount + projects_[1].KillCount, 0);
-    EXPECT_EQ(Files_in("out").size(), 6U) << "two projects, their assembler files, the options";
+    EXPECT_EQ(Files_in("out").size(), 7U)
+        << "the earlier one, two projects, their assembler files, the options";
     task_.Options.Importing.FillLand = false;
     EXPECT_THAT(Run(true), testing::HasSubstr("coast-122-148-b.TDM: removed\n"));
 }

@@ -8,6 +8,7 @@
 #include "coast/check.h"
 #include "coast/coast_file.h"
 #include "coast/coast_survey.h"
+#include "coast/crowded_cells.h"
 #include "coast/map_line.h"
 #include "fakes/random_coast.h"
 #include "fakes/rules_test.h"
@@ -161,6 +162,25 @@ TEST(ImportCoastTest, JaggedCoastsAreClosedWhereTheyAreTooNarrowToBeBuilt) {
     for (const bool reverse : {false, true})
         for (const LaidLine& line : Lay_coast(*project, lines, {.Reverse = reverse}).Lines)
             EXPECT_EQ(line.LandOnLeft, !reverse);
+}
+
+TEST(ImportCoastTest, OfACrowdedCellTheNarrowestPlaceIsTakenWhoseLinesCanBeJoined) {
+    std::vector<CoastStep> steps;
+    int down = FirstVTP;
+    for (std::uint32_t i = 0; i <= MaxPolyNumber; ++i) {
+        down += i == 4 ? 5 : i == 11 ? 7 : 10;
+        const Position west = {FirstVTP + 255, down}, east = {FirstVTP + 256, down};
+        steps.push_back({i % 2 == 0 ? west : east, i % 2 == 0 ? east : west, i, 0, {}, {}, {}});
+    }
+    for (const auto& [apart, step] : {std::pair{100U, 3U}, {4U, 10U}}) {
+        const auto can_join = [apart = apart](const CoastStep& one, const CoastStep& other) {
+            return one.Line != apart && other.Line != apart;
+        };
+        const std::vector<NarrowPlace> places = Narrow_places(steps, {}, can_join);
+        ASSERT_EQ(places.size(), 2U) << "one of either cell";
+        EXPECT_EQ(places[0].Step, step);
+        EXPECT_EQ(places[1].Other, step + 1);
+    }
 }
 
 // Its 1024 cells hold what a real coast has; all of it needs more polygons than a project holds.
