@@ -45,8 +45,9 @@ class EdgeCheck {
         // The two ends of one step belong together however far apart they are; where one coastline
         // goes on from another, or a point lies on the edge, the place tells.
         for (const int apart : {0, 1})
-            Match(here, there, [apart](const BoundaryPoint& a, const BoundaryPoint& b) {
-                return std::abs(a.Origin - b.Origin) == apart;
+            Match(here, there, [&](const BoundaryPoint& a, const BoundaryPoint& b) {
+                return std::abs(a.Origin - b.Origin) == apart &&
+                       (apart == 0 || !p_.VTPSegStart(std::max(a.Origin, b.Origin)));
             });
         Match(here, there, Is_close);
         for (const Seen& seen : here) Look_at_lonely(seen, cell_, other_);

@@ -11,7 +11,7 @@ namespace tidemark {
 namespace {
 
 constexpr int Columns = LastLOD8Column + 1, Rows = LastLOD8Row + 1;
-constexpr double HalfUnit = 0.5 / ((LastLOD13 + 1) * CellSizeVTP);  // in LOD8 cells
+constexpr double HalfUnit = 0.5 / SizeVTP;  // in LOD8 cells
 
 // In LOD8 cells, from 180 degrees west and from the north pole.
 double Across(double longitude) {

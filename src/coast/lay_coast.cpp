@@ -3,24 +3,17 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <map>
 #include <memory>
 
-#include "coast/cell_path.h"
 #include "coast/coast_draft.h"
+#include "coast/coast_input.h"
+#include "coast/map_ends.h"
 #include "coast/part_lines.h"
 #include "coast/simplify.h"
-#include "model/text_forms.h"
 
 namespace tidemark {
 
 namespace {
-
-constexpr double SizeVTP = (LastLOD13 + 1) * CellSizeVTP;  // of the LOD8 cell
-
-// A unit from north to south: 0.3515625 degrees of 111,195 metres (on a sphere of the Earth's mean
-// radius) are 8192 of them. From west to east it is less, but near the equator.
-constexpr double MetresToAUnit = LOD8DegreesSouth * 111194.93 / SizeVTP;
 
 // Points that are nearer than this to the one before them make no difference on the map.
 constexpr double LeastStep = 0.25;
@@ -84,120 +77,43 @@ void Leave_out_least(DraftLine& draft) {
     significances.resize(count);
 }
 
-std::vector<DraftLine> Draft_lines(const Project& p, std::span<const CoastLine> lines,
-                                   bool reverse) {
+// Keeps of the points between the ends the most significant one.
+void Keep_one_between(DraftLine& draft) {
+    const auto first = draft.Significances.begin() + 1, last = draft.Significances.end() - 1;
+    if (const auto most = std::max_element(first, last); most != last) *most = EndlessSignificance;
+}
+
+// A line that comes back to the side of the map where it began can be so shallow that a coarse
+// tolerance leaves nothing of it, while the map beyond has a line to each of its ends.
+enum class Shallow { Kept, Dropped };
+
+// The lines as they come into the map, whatever the tolerance.
+struct Drafts {
+    std::vector<DraftLine> Lines;
+    std::vector<std::string> Dropped;
+};
+
+Drafts Drafts_of(const Project& p, std::span<const CoastLine> lines, bool reverse,
+                 Shallow shallow) {
+    const MapUnits map = Units_of(p);
     std::vector<MapLine> pieces;
     for (const CoastLine& line : lines)
-        for (MapLine& piece : Clipped(On_map(p, line, reverse), Units_of(p).Rectangle()))
+        for (MapLine& piece : Clipped(On_map(p, line, reverse), map.Rectangle()))
             pieces.push_back(std::move(piece));
-    std::vector<DraftLine> drafts;
-    for (MapLine& line : Joined(std::move(pieces))) {
+    std::vector<MapLine> joined = Joined(std::move(pieces));
+    Drafts drafts;
+    drafts.Dropped = Close_crowded_ends(joined, map);
+    for (MapLine& line : joined) {
         Thin(line.Points);
         if (line.Points.size() < (line.IsRing ? 3U : 2U)) continue;
         std::vector<double> significances = Significances(line.Points, line.IsRing);
-        drafts.push_back({std::move(line), std::move(significances), false});
-        Leave_out_least(drafts.back());
+        DraftLine draft{std::move(line), std::move(significances), false};
+        if (shallow == Shallow::Kept && !draft.Line.IsRing && Comes_back_to_side(draft.Line, map))
+            Keep_one_between(draft);
+        Leave_out_least(draft);
+        drafts.Lines.push_back(std::move(draft));
     }
     return drafts;
-}
-
-// Collects what a draft comes to.
-class Laying {
-  public:
-    Laying(const MapUnits& map, const CoastDraft& draft) : map_(map), draft_(draft) {
-        coast_.Dropped = draft.Dropped;
-    }
-
-    LaidCoast All() {
-        for (std::size_t line = 0; line < draft_.Lines().size(); ++line) {
-            const std::vector<Position>& placed = draft_.Placed(line);
-            if (placed.size() < 2) continue;
-            coast_.Deviation = std::max(coast_.Deviation, draft_.Deviation(line));
-            const MapLine& source = draft_.Lines()[line].Line;
-            if (!source.IsRing)
-                Add_open(placed, source);
-            else if (Cut_at_cell_edges(placed).Crossings.empty())
-                Add_inner(placed, source);
-            else
-                Add(Cut_ring(placed), source);
-        }
-        for (auto& [cell, inner] : inner_) Add(std::move(inner.Points), *inner.Source);
-        return std::move(coast_);
-    }
-
-  private:
-    struct Inner {
-        std::vector<Position> Points;
-        const MapLine* Source;
-        double Area;
-    };
-
-    void Add(std::vector<Position> points, const MapLine& source) {
-        coast_.Points += static_cast<int>(points.size());
-        coast_.Lines.push_back({std::move(points), source.LandOnLeft, source.Origin});
-    }
-
-    // A line that ends inside the map is taken back to the last cell edge that it crosses.
-    void Add_open(const std::vector<Position>& placed, const MapLine& source) {
-        const bool starts_inside = !map_.Is_on_edge(placed.front());
-        const bool ends_inside = !map_.Is_on_edge(placed.back());
-        CellPath path = Cut_at_cell_edges(placed);
-        const std::size_t needed = (starts_inside ? 1U : 0U) + (ends_inside ? 1U : 0U);
-        if (path.Crossings.size() < needed) {
-            coast_.Dropped.push_back(source.Origin + " ends where it began, in one cell");
-            return;
-        }
-        const auto at = [&](std::size_t i) {
-            return path.Points.begin() + static_cast<std::ptrdiff_t>(i);
-        };
-        if (ends_inside) {
-            path.Points.erase(at(path.Crossings.back().Before) + 1, path.Points.end());
-            path.Points.push_back(path.Crossings.back().Edge);
-        }
-        if (starts_inside) {
-            path.Points.erase(path.Points.begin(), at(path.Crossings.front().Before) + 1);
-            path.Points.insert(path.Points.begin(), path.Crossings.front().Edge);
-        }
-        if (needed > 0)
-            coast_.Dropped.push_back("the end of " + source.Origin +
-                                     " inside the map: it was taken back to a cell's edge");
-        Add(std::move(path.Points), source);
-    }
-
-    // Of the islands in one cell the largest stays.
-    void Add_inner(const std::vector<Position>& placed, const MapLine& source) {
-        const double area = std::fabs(Twice_area(source.Points));
-        const Position place = Cell_of(placed.front());
-        const LOD13Cell cell{place[0], place[1]};
-        const auto found = inner_.find(cell);
-        const MapLine* smaller = nullptr;
-        if (found == inner_.end()) {
-            inner_[cell] = {placed, &source, area};
-        } else if (found->second.Area >= area) {
-            smaller = &source;
-        } else {
-            smaller = found->second.Source;
-            found->second = {placed, &source, area};
-        }
-        if (smaller != nullptr)
-            coast_.Dropped.push_back("the island of " + smaller->Origin + ": a larger one is in " +
-                                     "the same cell, [ " + std::to_string(cell.Column) + ", " +
-                                     std::to_string(cell.Row) + " ]");
-    }
-
-    const MapUnits& map_;
-    const CoastDraft& draft_;
-    std::map<LOD13Cell, Inner> inner_;
-    LaidCoast coast_;
-};
-
-LaidCoast Laid_at(const std::vector<DraftLine>& lines, const MapUnits& map, double tolerance,
-                  TouchingSteps& touching) {
-    CoastDraft draft(lines, map, tolerance);
-    Part_lines(draft, touching);
-    LaidCoast coast = Laying(map, draft).All();
-    coast.Tolerance = tolerance;
-    return coast;
 }
 
 // With less more than the wanted number of points are kept, not counting those that cell edges ask
@@ -213,13 +129,46 @@ double Least_tolerance(const std::vector<DraftLine>& lines, int most_points) {
     return std::isinf(*nth) ? 0 : *nth;
 }
 
-// "3" or, below ten, "3.5".
-std::string Short_number(double value) {
-    if (value >= 10) return std::to_string(std::lround(value));
-    const long tenths = std::lround(value * 10);
-    const std::string whole = std::to_string(tenths / 10);
-    return tenths % 10 == 0 ? whole : whole + "." + std::to_string(tenths % 10);
-}
+// Lays the same lines at one tolerance after the other.
+class Laying {
+  public:
+    Laying(const MapUnits& map, Drafts drafts, const GoOn& go_on)
+        : map_(map), drafts_(std::move(drafts)), go_on_(go_on) {}
+
+    LaidCoast With(const LayOptions& options) {
+        double low = std::max(std::max(options.Tolerance, LeastGain),
+                              Least_tolerance(drafts_.Lines, options.MostPoints));
+        double high = low;
+        LaidCoast laid = At(high);
+        while (laid.Points > options.MostPoints && high < MaxTolerance) {
+            low = high;
+            high *= Raise;
+            laid = At(high);
+        }
+        for (int i = 0; i < Halvings && low < high; ++i) {
+            const double middle = (low + high) / 2;
+            LaidCoast finer = At(middle);
+            const bool fits = finer.Points <= options.MostPoints;
+            (fits ? high : low) = middle;
+            if (fits) laid = std::move(finer);
+        }
+        laid.Fits = laid.Points <= options.MostPoints;
+        return laid;
+    }
+
+  private:
+    LaidCoast At(double tolerance) {
+        CoastDraft draft(drafts_.Lines, map_, tolerance);
+        draft.Dropped = drafts_.Dropped;
+        Part_lines(draft, *touching_, go_on_);
+        return Laid(draft, map_);
+    }
+
+    const MapUnits map_;
+    const Drafts drafts_;
+    const GoOn& go_on_;
+    const std::unique_ptr<TouchingSteps> touching_ = std::make_unique<TouchingSteps>();
+};
 
 }  // namespace
 
@@ -241,35 +190,20 @@ GeoBox Map_box(const Project& p) {
 }
 
 LaidCoast Lay_coast(const Project& project, std::span<const CoastLine> lines,
-                    const LayOptions& options) {
-    const std::vector<DraftLine> drafts = Draft_lines(project, lines, options.Reverse);
+                    const LayOptions& options, const GoOn& go_on) {
     const MapUnits map = Units_of(project);
-    double low = std::max(std::max(options.Tolerance, LeastGain),
-                          Least_tolerance(drafts, options.MostPoints));
-    double high = low;
-    const auto touching = std::make_unique<TouchingSteps>();
-    LaidCoast laid = Laid_at(drafts, map, high, *touching);
-    while (laid.Points > options.MostPoints && high < MaxTolerance) {
-        low = high;
-        high *= Raise;
-        laid = Laid_at(drafts, map, high, *touching);
+    const auto laid = [&](Shallow shallow) {
+        Laying laying(map, Drafts_of(project, lines, options.Reverse, shallow), go_on);
+        return laying.With(options);
+    };
+    try {
+        LaidCoast coast = laid(Shallow::Kept);
+        return coast.Fits ? coast : laid(Shallow::Dropped);
+    } catch (const CoastCancelled&) {
+        LaidCoast nothing;
+        nothing.Cancelled = true;
+        return nothing;
     }
-    for (int i = 0; i < Halvings && low < high; ++i) {
-        const double middle = (low + high) / 2;
-        LaidCoast finer = Laid_at(drafts, map, middle, *touching);
-        const bool fits = finer.Points <= options.MostPoints;
-        (fits ? high : low) = middle;
-        if (fits) laid = std::move(finer);
-    }
-    laid.Fits = laid.Points <= options.MostPoints;
-    return laid;
-}
-
-std::string Laid_text(const LaidCoast& coast, int free) {
-    return Counted(coast.Lines.size(), "line") + ", " + std::to_string(coast.Points) +
-           " points of " + std::to_string(free) + " free, off by at most " +
-           Short_number(coast.Deviation) +
-           " units = " + std::to_string(std::lround(coast.Deviation * MetresToAUnit)) + " m";
 }
 
 }  // namespace tidemark

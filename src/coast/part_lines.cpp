@@ -8,7 +8,10 @@
 #include <set>
 #include <utility>
 
+#include "coast/coast_draft.h"
+#include "coast/coast_input.h"
 #include "coast/crowded_cells.h"
+#include "coast/touching_steps.h"
 #include "lwm/cell_edges.h"
 #include "lwm/cell_text.h"
 
@@ -33,10 +36,12 @@ double Area(const DraftLine& line) {
 
 class Parting {
   public:
-    Parting(CoastDraft& draft, TouchingSteps& touching) : draft_(draft), touching_(touching) {}
+    Parting(CoastDraft& draft, TouchingSteps& touching, const GoOn& go_on)
+        : draft_(draft), touching_(touching), go_on_(go_on) {}
 
     void All() {
         for (int round = 0; round < MaxRounds; ++round) {
+            if (go_on_ && !go_on_()) throw CoastCancelled();
             const std::vector<CoastStep> steps = draft_.Steps();
             untouched_.assign(draft_.Lines().size(), Whole);
             const std::vector<TouchingSteps::Pair> touching = touching_.Among(steps);
@@ -206,6 +211,7 @@ class Parting {
 
     CoastDraft& draft_;
     TouchingSteps& touching_;
+    const GoOn& go_on_;
     // Of each line: the chords below this number are still as they were placed.
     std::vector<std::size_t> untouched_;
     std::set<LOD13Cell> crowded_;               // that are told of
@@ -214,8 +220,8 @@ class Parting {
 
 }  // namespace
 
-void Part_lines(CoastDraft& draft, TouchingSteps& touching) {
-    Parting(draft, touching).All();
+void Part_lines(CoastDraft& draft, TouchingSteps& touching, const GoOn& go_on) {
+    Parting(draft, touching, go_on).All();
 }
 
 }  // namespace tidemark

@@ -12,8 +12,9 @@ namespace tidemark {
 // VTP units or LOD13 cells: 0 is X or column, 1 is Y or row.
 using Position = std::array<int, 2>;
 
-// The last VTP unit of the LOD8 cell; its first one is FirstVTP.
-inline constexpr int LastVTP = FirstVTP + (LastLOD13 + 1) * CellSizeVTP - 1;
+// VTP units of the LOD8 cell; the first one is FirstVTP.
+inline constexpr int SizeVTP = (LastLOD13 + 1) * CellSizeVTP;
+inline constexpr int LastVTP = FirstVTP + SizeVTP - 1;
 
 // The column or row of a VTP coordinate, whatever its size: -1 just west or north of the LOD8 cell.
 constexpr int Cell_index(int value) {

@@ -183,6 +183,39 @@ TEST(ImportCoastTest, OfACrowdedCellTheNarrowestPlaceIsTakenWhoseLinesCanBeJoine
     }
 }
 
+// Where lines come to the common edge of two maps, one south of the other.
+static std::vector<int> Ends_at(const LaidCoast& coast, int edge) {
+    std::vector<int> columns;
+    for (const LaidLine& line : coast.Lines)
+        for (const Position& end : {line.Points.front(), line.Points.back()})
+            if (end[1] == edge) columns.push_back(end[0]);
+    std::sort(columns.begin(), columns.end());
+    return columns;
+}
+
+// A shore along the edge between two maps, with shallow spits over it: 12 in a cell, or one.
+TEST(ImportCoastTest, MapsMeetAtTheirEdgeHoweverCoarseOneIsAndHoweverOftenACellIsCrossedThere) {
+    for (const auto& [spits, tolerance, ends] : {std::tuple(12, 4.0, 16U), {1, 50.0, 2U}}) {
+        SCOPED_TRACE(spits);
+        const auto north = Whole_cell(), south = Whole_cell();
+        south->BGLOD8Y = north->BGLOD8Y + 1;
+        CoastLine shore{{}, false, true, "shore"};
+        for (int i = -520; i <= 520; ++i) {
+            const int x = FirstVTP + 16 * CellSizeVTP - 8 * i, wave = i % 2 == 0 ? 6 : 40;
+            const int up = i > -spits * 2 && i <= 0 && i % 2 == 0 ? -10 : wave;
+            shore.Positions.push_back(On_earth(Map_box(*south), x, FirstVTP + up));
+        }
+        const std::vector<CoastLine> lines{shore};
+        const LaidCoast coarse = Lay_coast(*north, lines, {.Tolerance = tolerance});
+        const LaidCoast fine = Lay_coast(*south, lines, {});
+        EXPECT_EQ(Ends_at(coarse, LastVTP).size(), ends);
+        EXPECT_EQ(Ends_at(coarse, LastVTP), Ends_at(fine, FirstVTP));
+        EXPECT_EQ(coarse.Dropped.size(), spits == 12 ? 1U : 0U);
+        Expect_built(*north, coarse);
+        Expect_built(*south, fine);
+    }
+}
+
 // Its 1024 cells hold what a real coast has; all of it needs more polygons than a project holds.
 TEST(ImportCoastTest, TheGoldenGatesFileIsLaidWithoutAnErrorWhateverTheTolerance) {
     const auto project = Whole_cell();
