@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <QFileInfo>
-#include <QScopeGuard>
 #include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -20,6 +19,8 @@ namespace {
 // Milliseconds: what reading may take before it is shown, and between two looks at the events.
 constexpr int ShownAfter = 200;
 constexpr int LookAgain = 30;
+
+constexpr int WholeProgress = 100;
 
 // Keeps its place in the dialog while it is hidden.
 void Hide_in_place(QWidget& widget) {
@@ -49,7 +50,7 @@ ImportCoast::ImportCoast(Platform& platform, QWidget* owner, Reader read)
       FillWaterCheck_(Named<QCheckBox>("FillWaterCheck", "Fill with w&ater polygons")),
       FillLandCheck_(Named<QCheckBox>("FillLandCheck", "Fill with &land polygons")),
       ReadingProgress_(Captionless<QProgressBar>("ReadingProgress")),
-      StopReadingButton_(Named<QPushButton>("StopReadingButton", "&Stop reading")),
+      StopReadingButton_(Named<QPushButton>("StopReadingButton", "&Stop")),
       ImportCountLabel_(Named<QLabel>("ImportCountLabel")),
       ImportRemarkList_(
           Captionless<QListWidget>("ImportRemarkList", "What is left out, and errors")) {
@@ -165,24 +166,15 @@ void ImportCoast::CoastFileButton_Click() {
 }
 
 void ImportCoast::Read(const QString& path) {
-    if (is_reading_) return;
+    if (is_busy_) return;
     const std::filesystem::path file(path.toStdU16String());
     CoastFileText_->setText(path);
     Take_lines({}, "Reading " + From_qt(QFileInfo(path).fileName()) + " ...");
     import_.FileRemarks.clear();
-    is_reading_ = true;
-    is_cancelled_ = false;
-    since_start_.start();
-    since_look_.start();
     const GeoBox box = Map_box(*project_);
     CoastFileReading reading;
     {
-        const auto over = qScopeGuard([this] {
-            is_reading_ = false;
-            ReadingProgress_->hide();
-            StopReadingButton_->hide();
-            choices_->setEnabled(true);
-        });
+        const auto over = Begin_work();
         reading = read_(file, {&box, 1}, [this](double part) { return Show_progress(part); });
     }
     if (!isVisible()) return;  // it was closed meanwhile
@@ -197,13 +189,27 @@ void ImportCoast::Read(const QString& path) {
     (OkButton_->isEnabled() ? OkButton_ : CoastFileButton_)->setFocus();
 }
 
+// What takes longer can be watched and stopped until the result is gone.
+QScopeGuard<std::function<void()>> ImportCoast::Begin_work() {
+    is_busy_ = true;
+    is_cancelled_ = false;
+    since_start_.start();
+    since_look_.start();
+    return QScopeGuard<std::function<void()>>([this] {
+        is_busy_ = false;
+        ReadingProgress_->hide();
+        StopReadingButton_->hide();
+        choices_->setEnabled(true);
+    });
+}
+
 void ImportCoast::Take_lines(std::vector<CoastLine> lines, const std::string& problem) {
     lines_ = std::move(lines);
     problem_ = problem;
     Lay();
 }
 
-bool ImportCoast::Show_progress(double part) {
+bool ImportCoast::Show_progress(std::optional<double> part) {
     if (since_start_.elapsed() < ShownAfter || since_look_.elapsed() < LookAgain)
         return !is_cancelled_;
     if (!StopReadingButton_->isVisible()) {
@@ -212,7 +218,8 @@ bool ImportCoast::Show_progress(double part) {
         StopReadingButton_->show();
         StopReadingButton_->setFocus();
     }
-    ReadingProgress_->setValue(static_cast<int>(part * ReadingProgress_->maximum()));
+    ReadingProgress_->setMaximum(part ? WholeProgress : 0);
+    if (part) ReadingProgress_->setValue(static_cast<int>(*part * WholeProgress));
     QCoreApplication::processEvents();
     since_look_.start();
     return !is_cancelled_;
@@ -221,11 +228,17 @@ bool ImportCoast::Show_progress(double part) {
 void ImportCoast::Lay() {
     const auto tolerance = Take_tolerance(From_qt(ToleranceText_->text()));
     import_.Coast = {};
-    if (tolerance && !lines_.empty())
+    if (tolerance && !lines_.empty()) {
+        QWidget* const asked_by = focusWidget();
+        const auto over = Begin_work();
         import_.Coast =
             Lay_coast(*project_, lines_,
-                      {*tolerance, ReverseCheck_->isChecked(), MaxVTPCount - project_->VTPCount});
-    Count();
+                      {*tolerance, ReverseCheck_->isChecked(), MaxVTPCount - project_->VTPCount},
+                      [this] { return Show_progress(std::nullopt); });
+        if (!choices_->isEnabled() && asked_by != nullptr)
+            QTimer::singleShot(0, asked_by, [asked_by] { asked_by->setFocus(); });
+    }
+    if (isVisible() || !import_.Coast.Cancelled) Count();
 }
 
 void ImportCoast::Count() {
@@ -238,6 +251,8 @@ void ImportCoast::Count() {
     ImportPreview preview{problem_, {}, {}, false};
     if (!Take_tolerance(From_qt(ToleranceText_->text())))
         preview.CountText = WrongToleranceText;
+    else if (import_.Coast.Cancelled)
+        preview.CountText = "The laying was stopped. Another tolerance begins it anew.";
     else if (problem_.empty())
         preview = Preview_import(*project_, import_);
     ImportCountLabel_->setText(To_qt(preview.CountText));

@@ -14,6 +14,7 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include "app/import_commands.h"
 #include "coast/coast_file.h"
@@ -21,7 +22,7 @@
 namespace tidemark {
 
 // Reads a coast file and counts what the choices would make of it before anything is imported.
-// Reading that takes longer shows how far it is, and can be cancelled; so it is when the dialog is
+// Reading and laying that take longer show it, and can be stopped; so they are when the dialog is
 // closed.
 class ImportCoast : public QDialog {
     Q_OBJECT
@@ -53,7 +54,9 @@ class ImportCoast : public QDialog {
 
     void CoastFileButton_Click();
     void Read(const QString& path);
-    bool Show_progress(double part);
+    QScopeGuard<std::function<void()>> Begin_work();
+    // Nothing: how far it is, is not known. False when it is to stop.
+    bool Show_progress(std::optional<double> part);
     void Take_lines(std::vector<CoastLine> lines, const std::string& problem);
     void Lay();
     void Count();
@@ -66,8 +69,8 @@ class ImportCoast : public QDialog {
     std::string problem_;           // why there are none
     CoastImport import_;            // as the choices are
 
-    bool is_reading_ = false, is_cancelled_ = false;
-    QElapsedTimer since_start_, since_look_;  // of the reading; since events were last let through
+    bool is_busy_ = false, is_cancelled_ = false;
+    QElapsedTimer since_start_, since_look_;  // of the work; since events were last let through
 
     QWidget* choices_;  // what waits while a file is read
     QLineEdit* CoastFileText_;

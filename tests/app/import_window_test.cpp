@@ -8,6 +8,7 @@
 #include "app/tidemark_main_window.h"
 #include "canvas/test_images.h"
 #include "coast/check.h"
+#include "fakes/random_numbers.h"
 #include "fakes/window_test.h"
 
 namespace tidemark {
@@ -198,6 +199,34 @@ TEST_F(ImportTest, ReadingIsShownAndEndsWithTheButtonAndWithTheDialog) {
     while_reading([&] { import.close(); });
     EXPECT_FALSE(import.Ask(window_.Current_project(), "a.gpx").has_value());
     EXPECT_EQ(readings, 2);
+}
+
+// A scribble that touches itself everywhere.
+TEST_F(ImportTest, LayingThatGoesOnAndOnEndsWithTheButton) {
+    Open();
+    FakePlatform fake;
+    ImportCoast import(fake.platform, &window_, [](auto&&, std::span<const GeoBox> box, auto&&) {
+        RandomNumbers random(7);
+        CoastFileReading reading;
+        CoastLine& line = reading.Lines.emplace_back().emplace_back();
+        for (int i = 0; i < 2000; ++i)
+            line.Positions.push_back({box[0].West + random.Number(1000, 2000) / 1e5,
+                                      box[0].North - random.Number(1000, 2000) / 1e5});
+        return reading;
+    });
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &import, [&] {
+        auto& stop = Control<QPushButton>(import, "StopReadingButton");
+        if (stop.isVisible()) return Click(stop);
+        if (Counted(import) != "The laying was stopped. Another tolerance begins it anew.") return;
+        EXPECT_FALSE(Is_ready(import));
+        EXPECT_TRUE(Control<QPushButton>(import, "CoastFileButton").isEnabled());
+        watch.stop();
+        import.close();
+    });
+    watch.start(50);
+    EXPECT_FALSE(import.Ask(window_.Current_project(), "a.gpx").has_value());
+    EXPECT_FALSE(watch.isActive());
 }
 
 }  // namespace
